@@ -1,0 +1,37 @@
+# How everything is compiled and linked: C++20, every warning an error,
+# ccache and mold where the machine has them.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+
+option(QUARTELA_SANITIZE "Build with the address and undefined behaviour sanitizers" OFF)
+option(QUARTELA_TIDY "Run clang-tidy on every file that is compiled" OFF)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+find_program(MOLD_PROGRAM mold)
+if(MOLD_PROGRAM)
+  add_link_options(-fuse-ld=mold)
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
+                    -Woverloaded-virtual -Wold-style-cast -Werror)
+add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+                        QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH)
+
+if(QUARTELA_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(QUARTELA_TIDY)
+  find_program(CLANG_TIDY_PROGRAM clang-tidy REQUIRED)
+  set(CMAKE_CXX_CLANG_TIDY "${CLANG_TIDY_PROGRAM};--quiet")
+endif()

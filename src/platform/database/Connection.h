@@ -1,0 +1,57 @@
+// The connection to the one database file of a run.
+//
+// A file is opened as it stands and never changed by the opening. Errors of open(): 3024 the file
+// does not exist; 3044 the path leads to nothing that can be opened: it is empty, a folder or
+// malformed, the folder does not exist, the file cannot be read, is empty, or is no database of this
+// program (the description says which; an Access file is recognised by its head and named as such).
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "platform/database/dialect/Catalogue.h"
+
+namespace quartela {
+
+class SqliteSession;
+
+class Connection {
+ public:
+  enum State { Closed = 0, Open = 1 };
+  enum CursorLocation { Server = 2, Client = 3 };
+
+  Connection();
+  ~Connection();
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
+
+  // `connectionText` is "Provider=...;Data Source=PATH;", further settings are passed over. Paths
+  // take both separators. Error 3705 when it is open already.
+  void open(const QString& connectionText);
+  // Rolls an open transaction back and leaves one file. Closing twice is no error.
+  void close();
+  State state() const;
+
+  // Rows are always kept on the program's side; the setting is only remembered.
+  void setCursorLocation(CursorLocation location) { cursorLocation_ = location; }
+  CursorLocation cursorLocation() const { return cursorLocation_; }
+
+  // Runs one DELETE; gives the count of rows that it removed from the table it names.
+  // Errors: 3704 closed, the dialect's, 3200 dependants, 3218 locked by another program.
+  int execute(const QString& statement);
+
+  // One transaction at a time; beginning takes the write lock (3218 after a short wait).
+  void beginTransaction();
+  void commit();
+  void rollback();
+  bool inTransaction() const;
+
+  const Catalogue& catalogue() const;
+  SqliteSession& session();
+
+ private:
+  std::unique_ptr<SqliteSession> session_;
+  CursorLocation cursorLocation_ = Server;
+};
+
+}  // namespace quartela
