@@ -35,3 +35,7 @@ if(QUARTELA_TIDY)
   find_program(CLANG_TIDY_PROGRAM clang-tidy REQUIRED)
   set(CMAKE_CXX_CLANG_TIDY "${CLANG_TIDY_PROGRAM};--quiet")
 endif()
+
+# A static library is compiled without waiting for the ones it will be linked with.
+set(CMAKE_OPTIMIZE_DEPENDENCIES ON)
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)

@@ -1,0 +1,121 @@
+#!/usr/bin/env python3
+"""Proves from the include lines that no folder of src/ includes upward and no files include in a circle.
+
+Usage: include_directions.py SRC. Prints each wrong line and exits with 1 when there is one.
+"""
+import re
+import sys
+from pathlib import Path
+
+# A folder includes itself and folders that stand above it. The folders of one group do not know each
+# other; what a line lists more than once stands in the order of its groups.
+LAYERS = [
+    ["platform/values"],
+    ["platform/files"],
+    ["platform/database/dialect"],
+    ["platform/database", "platform/dialogs", "platform/controls", "platform/spreadsheet"],
+    ["platform/reporting"],
+    ["foundation"],
+    ["records"],
+    ["masterdata"],
+    ["requests"],
+    ["reports"],
+    ["screens"],
+    ["sheets"],
+    ["admin"],
+    ["shell/ribbon"],
+    ["shell"],
+    [""],
+]
+# The dialect stands on the values alone; the dialogs and the controls know nothing of the database.
+FORBIDDEN = {
+    "platform/database/dialect": {"platform/files"},
+    "platform/dialogs": {"platform/database/dialect"},
+    "platform/controls": {"platform/database/dialect"},
+    "platform/spreadsheet": {"platform/database/dialect"},
+    # The ribbon knows its model and its three events and nothing of the program.
+    "shell/ribbon": {"foundation", "records", "masterdata", "requests", "reports", "screens", "sheets",
+                     "admin", "platform/database", "platform/database/dialect",
+                     "platform/reporting", "platform/spreadsheet"},
+}
+INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
+RANK = {folder: rank for rank, group in enumerate(LAYERS) for folder in group}
+
+
+def layer_of(path):
+    """The folder of LAYERS that the file `path` (relative to src/) belongs to, or None."""
+    folder = Path(path).parent.as_posix()
+    folder = "" if folder == "." else folder
+    while folder not in RANK:
+        if "/" not in folder:
+            return None
+        folder = folder.rsplit("/", 1)[0]
+    return folder
+
+
+def includes_of(source, path):
+    """(line number, included path) of each include of a file of the tree."""
+    lines = (source / path).read_text(encoding="utf-8").splitlines()
+    for number, line in enumerate(lines, 1):
+        match = INCLUDE.match(line)
+        if match and (source / match.group(1)).exists():
+            yield number, match.group(1)
+
+
+def wrong_directions(path, includes):
+    own = layer_of(path)
+    if own is None:
+        yield f"{path}: its folder has no place in the order of the layers"
+        return
+    for number, target in includes:
+        other = layer_of(target)
+        same_group = other is not None and RANK[other] == RANK[own] and other != own
+        upward = other is not None and RANK[other] > RANK[own]
+        if other is None or same_group or upward or other in FORBIDDEN.get(own, ()):
+            yield f"{path}:{number}: {own or 'src'} must not include {target}"
+
+
+def find_circle(graph):
+    """A list of files that include each other in a circle, or None."""
+    done, trail = set(), []
+
+    def visit(path):
+        if path in trail:
+            return trail[trail.index(path):] + [path]
+        if path in done:
+            return None
+        trail.append(path)
+        for target in graph.get(path, ()):
+            circle = visit(target)
+            if circle:
+                return circle
+        trail.pop()
+        done.add(path)
+        return None
+
+    for path in graph:
+        circle = visit(path)
+        if circle:
+            return circle
+    return None
+
+
+def check(source):
+    files = sorted(p.relative_to(source).as_posix() for p in source.rglob("*")
+                   if p.suffix in (".h", ".cpp"))
+    includes = {path: list(includes_of(source, path)) for path in files}
+    problems = [line for path in files for line in wrong_directions(path, includes[path])]
+    circle = find_circle({path: [target for _, target in found] for path, found in includes.items()})
+    if circle:
+        problems.append("circle: " + " -> ".join(circle))
+    return files, problems
+
+
+def main():
+    files, problems = check(Path(sys.argv[1]))
+    print("\n".join(problems) or f"{len(files)} files, every include points downward")
+    return 1 if problems or not files else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
