@@ -4,7 +4,9 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include "platform/dialogs/Dialogs.h"
 #include "platform/values/Clock.h"
+#include "tests/support/ScriptedDialogs.h"
 
 namespace quartela::test {
 
@@ -15,6 +17,7 @@ void prepareApplication(QApplication& application) {
                        QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(translator);
   }
+  Dialogs::setHost(&refusedDialogs());
   Clock::stopAt(DateTime::of(2014, 11, 21, 10, 30));
 }
 

@@ -1,0 +1,29 @@
+#include "records/Principal.h"
+
+#include "records/cTodos.h"
+
+namespace quartela {
+
+std::int16_t ModoAlteracao = 0;
+std::int16_t FiltroStatus = 1;
+QString Tag_principal;
+
+namespace {
+
+ListView* lista_registrada = nullptr;
+StatusBar* barra_registrada = nullptr;
+
+}  // namespace
+
+void registra_lista_principal(ListView* lista, StatusBar* barra) {
+  lista_registrada = lista;
+  barra_registrada = barra;
+}
+
+void Lista_principal(std::int16_t codigo) {
+  if (lista_registrada != nullptr && barra_registrada != nullptr) {
+    cTodos::compartilhada().Lista_Movimento(*lista_registrada, codigo, *barra_registrada);
+  }
+}
+
+}  // namespace quartela

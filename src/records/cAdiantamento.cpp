@@ -1,0 +1,135 @@
+#include "records/cAdiantamento.h"
+
+#include "foundation/Banco.h"
+#include "foundation/Erros.h"
+#include "foundation/Leitura.h"
+#include "platform/controls/ListView.h"
+#include "platform/values/Convert.h"
+#include "platform/values/Format.h"
+#include "records/Consulta.h"
+#include "records/Gravacao.h"
+
+namespace quartela {
+namespace {
+
+constexpr QStringView kData = u"dd/MM/yyyy";
+constexpr QStringView kValor = u"#,##0.00";
+
+void adiciona_empenho(ListView& lista) {
+  const auto campo = [](int posicao, QStringView formato) {
+    return Format(Tabela.field(posicao), formato);
+  };
+  lista.addRow({campo(0, u"00000/00"), campo(1, kData), campo(2, kData), campo(3, kData),
+                campo(4, kData), campo(5, kValor), campo(6, kData), Convert::toText(Tabela.field(7)),
+                Convert::toBool(Tabela.field(8)) ? QStringLiteral("SIM") : QStringLiteral("NÃO")});
+}
+
+}  // namespace
+
+cAdiantamento& cAdiantamento::compartilhada() {
+  static cAdiantamento instancia;
+  return instancia;
+}
+
+void cAdiantamento::Del_ad() {
+  Exclui_registro(QStringLiteral("DELETE FROM Adiantamento where EMPENHO = ") + QString::number(Empenho),
+                  OrdemDesfaz::DepoisDaCaixa);
+}
+
+void cAdiantamento::Save_ad(std::int16_t codigo) {
+  const QString selecao =
+      QStringLiteral("select * from Adiantamento WHERE Adiantamento.EMPENHO =") +
+      QString::number(Empenho);
+  Salva_registro(codigo, {.tabela = QStringLiteral("Adiantamento"),
+                          .selecao = selecao,
+                          .grava_campos = [this] { Grava_campos(); }});
+}
+
+void cAdiantamento::Grava_campos() const {
+  Tabela.setField(u"EMPENHO", Empenho);
+  Tabela.setField(u"PROCESSO", processo);
+  Tabela.setField(u"ABERTURA", Abertura);
+  Tabela.setField(u"RETIRADA", Retirada);
+  Tabela.setField(u"FECHAR_EM", Fechar);
+  Tabela.setField(u"FECHAMENTO", Fechamento);
+  Tabela.setField(u"DEVOLUCAO", Devolucao);
+  Tabela.setField(u"DATADEV", Datadev);
+  Tabela.setField(u"ANULADO", Nulo != 0);
+  Tabela.setField(u"OP", OP);
+}
+
+void cAdiantamento::Lista_Adiantamento(ListView& lista) {
+  Lista_sob_trava(QStringLiteral("Função Lista_Adiantamento"), [&] {
+    Sql_atual =
+        QStringLiteral(
+            "SELECT Adiantamento.EMPENHO, Adiantamento.ABERTURA, Adiantamento.RETIRADA, "
+            "Adiantamento.FECHAR_EM, Adiantamento.FECHAMENTO, Adiantamento.DEVOLUCAO, "
+            "Adiantamento.DATADEV, Adiantamento.OP, Adiantamento.ANULADO From Adiantamento "
+            "WHERE Adiantamento.PROCESSO =") +
+        QString::number(processo);
+    lista.clear();
+    Abre_consulta(Sql_atual);
+    Cede_vez();
+    for (; !Tabela.eof(); Tabela.moveNext()) {
+      adiciona_empenho(lista);
+    }
+  });
+}
+
+Money cAdiantamento::Soma_despesas() {
+  Money soma;
+  Lista_sob_trava(QStringLiteral("Função Soma_despesas"), [&] {
+    Sql_atual = QStringLiteral(
+                    "SELECT DISTINCTROW Sum(PrestContas.DESPESAS) AS [Soma De DESPESAS] "
+                    "From PrestContas GROUP BY PrestContas.PROCESSO "
+                    "HAVING PrestContas.PROCESSO =") +
+                QString::number(processo);
+    Abre_consulta(Sql_atual);
+    if (Tabela.recordCount() > 0) {
+      soma = Convert::toMoney(Format(Tabela.field(0), kValor));
+    }
+  });
+  return soma;
+}
+
+bool cAdiantamento::Encerra_adiantamento() {
+  bool gravado = false;
+  Sob_trava(QStringLiteral("Encerra_adiantamento"), [&] {
+    Sql_atual = QStringLiteral("Select EMPENHO, FECHAMENTO, DEVOLUCAO, DATADEV From Adiantamento "
+                               "WHERE EMPENHO =") +
+                QString::number(Empenho);
+    Tabela.close();
+    Tabela.open(Sql_atual, *Conexao, CursorType::Static, LockType::Pessimistic);
+    if (Datadev == Value("")) {
+      Datadev = Value();
+    }
+    Tabela.setField(u"FECHAMENTO", Fechamento);
+    Tabela.setField(u"DEVOLUCAO", Devolucao);
+    Tabela.setField(u"DATADEV", Datadev);
+    Tabela.update();
+    gravado = true;
+    Tabela.close();
+  });
+  // A row begun and not written must not keep the write lock.
+  Tabela.cancelUpdate();
+  return gravado;
+}
+
+void cAdiantamento::Dados_Planilha() {
+  Carrega_registro(
+      QStringLiteral("Select * From Sel_Planilha WHERE Requisicao.SEQ =") + QString::number(processo),
+      [this] { Le_planilha(); });
+}
+
+void cAdiantamento::Le_planilha() {
+  Empenho = Convert::toI32(Tabela.field(u"EMPENHO"));
+  Abertura = Convert::toText(Tabela.field(u"ABERTURA"));
+  Retirada = Convert::toText(Tabela.field(u"RETIRADA"));
+  executor_ = Convert::toText(Tabela.field(u"NOME"));
+  tomador_ = Convert::toText(Tabela.field(u"NOME1"));
+  cargo_ = Convert::toText(Tabela.field(u"CARGO"));
+  orgao_ = Convert::toText(Tabela.field(u"ORGAO"));
+  valor_ = Convert::toMoney(Tabela.field(u"VALOR"));
+}
+
+}  // namespace quartela

@@ -1,0 +1,109 @@
+#include "records/cPrestContas.h"
+
+#include "foundation/Banco.h"
+#include "foundation/Leitura.h"
+#include "platform/controls/ListView.h"
+#include "platform/values/Convert.h"
+#include "platform/values/Format.h"
+#include "records/Consulta.h"
+#include "records/Gravacao.h"
+
+namespace quartela {
+namespace {
+
+constexpr QStringView kValor = u"#,##0.00";
+const QString kNotas = QStringLiteral(
+    "SELECT PrestContas.SEQ, PrestContas.DATA, PrestContas.ORDEM, PrestContas.HISTORICO, "
+    "PrestContas.DESPESAS From PrestContas Where PrestContas.Processo =");
+const QString kPorData = QStringLiteral(" ORDER BY PrestContas.DATA, PrestContas.SEQ;");
+
+void adiciona_nota(ListView& lista, Money& total) {
+  total += Convert::toMoney(Tabela.field(4));
+  const int linha = lista.addRow(
+      {Format(Tabela.field(0), u"0000"), Format(Tabela.field(1), u"dd/MM/yyyy"),
+       Convert::toText(Tabela.field(2)), Convert::toText(Tabela.field(3)),
+       Format(Tabela.field(4), kValor), Format(total, kValor)});
+  lista.ensureVisible(linha);
+}
+
+}  // namespace
+
+cPrestContas& cPrestContas::compartilhada() {
+  static cPrestContas instancia;
+  return instancia;
+}
+
+void cPrestContas::Save_prest(std::int16_t codigo) {
+  Salva_registro(codigo, {.tabela = QStringLiteral("PrestContas"),
+                          .selecao = QStringLiteral("select * from PrestContas WHERE SEQ =") +
+                                     QString::number(Seq),
+                          .grava_campos = [this] { Grava_campos(); },
+                          .pergunta_inclusao = false});
+}
+
+void cPrestContas::Save_import() {
+  Salva_calado({.tabela = QStringLiteral("PrestContas"),
+                .selecao = {},
+                .grava_campos = [this] { Grava_campos(); }});
+}
+
+void cPrestContas::Grava_campos() const {
+  Tabela.setField(u"PROCESSO", processo);
+  Tabela.setField(u"DATA", Data);
+  Tabela.setField(u"ORDEM", Ordem);
+  Tabela.setField(u"HISTORICO", Historico);
+  Tabela.setField(u"DESPESAS", Despesas);
+  Tabela.setField(u"ID_VIAGEM", ID_Viagem);
+}
+
+void cPrestContas::Del_prest() {
+  Exclui_registro(QStringLiteral("DELETE FROM PrestContas where SEQ = ") + QString::number(Seq));
+}
+
+void cPrestContas::Del_prest_todos() {
+  Sql_atual = QStringLiteral("DELETE From PrestContas WHERE PROCESSO =") + QString::number(processo);
+  Exclui_registro(Sql_atual, OrdemDesfaz::AntesDaCaixa, AvisoExclusao::Nenhum);
+}
+
+Money cPrestContas::Lista_Prest(ListView& lista) {
+  Money resultado;
+  Lista_sob_trava(QStringLiteral("Função Lista_Adiantamento"), [&] {
+    Sql_atual = kNotas + QString::number(processo) + kPorData;
+    lista.clear();
+    Money total;
+    Abre_consulta(Sql_atual);
+    Cede_vez();
+    for (; !Tabela.eof(); Tabela.moveNext()) {
+      adiciona_nota(lista, total);
+    }
+    resultado = Convert::toMoney(Format(total, kValor));
+  });
+  return resultado;
+}
+
+bool cPrestContas::Verifica_Prest() {
+  bool tem = false;
+  Lista_sob_trava(QStringLiteral("Função Verifica_Prest"), [&] {
+    Sql_atual = kNotas + ' ' + QString::number(processo) + kPorData;
+    Abre_consulta(Sql_atual);
+    tem = Tabela.recordCount() >= 1;
+  });
+  return tem;
+}
+
+void cPrestContas::Envia_dados(std::int16_t numero) {
+  Carrega_registro(
+      QStringLiteral("Select * From PrestContas WHERE SEQ =") + QString::number(numero),
+      [this] { Le_campos(); });
+}
+
+void cPrestContas::Le_campos() {
+  processo = Convert::toI32(Tabela.field(u"PROCESSO"));
+  Data = Convert::toDateTime(Tabela.field(u"DATA"));
+  Ordem = Convert::toText(Tabela.field(u"ORDEM"));
+  Despesas = Convert::toMoney(Tabela.field(u"DESPESAS"));
+  Historico = Convert::toText(Tabela.field(u"HISTORICO"));
+  ID_Viagem = Convert::toI16(Tabela.field(u"ID_Viagem"));
+}
+
+}  // namespace quartela

@@ -1,0 +1,73 @@
+#include "records/cRequisicao.h"
+
+#include "foundation/Banco.h"
+#include "foundation/Leitura.h"
+#include "platform/values/Convert.h"
+#include "records/Consulta.h"
+#include "records/Gravacao.h"
+
+namespace quartela {
+
+cRequisicao& cRequisicao::compartilhada() {
+  static cRequisicao instancia;
+  return instancia;
+}
+
+bool cRequisicao::Save_req(std::int16_t codigo) {
+  const QString selecao =
+      QStringLiteral("Select * from Requisicao WHERE SEQ =") + QString::number(Seq);
+  return Salva_registro(codigo, {.tabela = QStringLiteral("Requisicao"),
+                                 .selecao = selecao,
+                                 .grava_campos = [this] { Grava_campos(); }});
+}
+
+void cRequisicao::Grava_campos() const {
+  Tabela.setField(u"SEQ", Seq);
+  Tabela.setField(u"DATA", Data);
+  Tabela.setField(u"ORGAO", Orgao);
+  Tabela.setField(u"TOMADOR", Tomador);
+  Tabela.setField(u"VALOR", Valor);
+  Tabela.setField(u"FINALIDADE", Finalidade);
+  Tabela.setField(u"JUSTIFICATIVA", Justificativa);
+  Tabela.setField(u"FICHA", Ficha);
+}
+
+void cRequisicao::Del_req() {
+  Exclui_registro(QStringLiteral("DELETE FROM Requisicao where SEQ = ") + QString::number(Seq));
+}
+
+bool cRequisicao::Verifica_registro() {
+  Sql_atual = QStringLiteral(
+                  "SELECT Requisicao.TOMADOR, Requisicao.FINALIDADE, Adiantamento.FECHAMENTO "
+                  "FROM Requisicao LEFT JOIN Adiantamento ON Requisicao.SEQ = Adiantamento.PROCESSO "
+                  " WHERE Requisicao.TOMADOR =") +
+              QString::number(Tomador) + QStringLiteral(" And Requisicao.Finalidade = ") +
+              QString::number(Finalidade) +
+              QStringLiteral(" AND ((Adiantamento.FECHAMENTO) Is Null);");
+  Abre_consulta(Sql_atual);
+  const bool aberto = Tabela.recordCount() >= 1;
+  Tabela.close();
+  return aberto;
+}
+
+void cRequisicao::Envia_dados(std::int16_t numero) {
+  Carrega_registro(
+      QStringLiteral("Select Requisicao.*, Executor.IDORGAO From Requisicao, Executor WHERE "
+                     "Requisicao.ORGAO = Executor.ORDEM AND SEQ =") +
+          QString::number(numero),
+      [this] { Le_campos(); });
+}
+
+void cRequisicao::Le_campos() {
+  Seq = Convert::toI32(Tabela.field(u"SEQ"));
+  Data = Convert::toDateTime(Tabela.field(u"DATA"));
+  Orgao = Convert::toI16(Tabela.field(u"ORGAO"));
+  Tomador = Convert::toI16(Tabela.field(u"TOMADOR"));
+  Valor = Convert::toMoney(Tabela.field(u"VALOR"));
+  Finalidade = Convert::toI16(Tabela.field(u"FINALIDADE"));
+  Justificativa = Convert::toText(Tabela.field(u"JUSTIFICATIVA"));
+  Ficha = Convert::toText(Tabela.field(u"FICHA"));
+  Secretaria = Convert::toI16(Tabela.field(u"IDORGAO"));
+}
+
+}  // namespace quartela

@@ -1,0 +1,34 @@
+#include "tests/support/FreshFolder.h"
+
+#include <QFile>
+#include <QtTest>
+
+#include "platform/files/ProgramFolder.h"
+
+namespace quartela::test {
+
+FreshFolder::FreshFolder() {
+  setProgramFolder(folder_.path());
+}
+
+FreshFolder::~FreshFolder() {
+  setProgramFolder({});
+}
+
+QByteArray FreshFolder::read(const QString& name) const {
+  QFile file(path(name));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void FreshFolder::write(const QString& name, const QByteArray& bytes) const {
+  QFile file(path(name));
+  QVERIFY2(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush(),
+           qUtf8Printable(file.errorString()));
+}
+
+void FreshFolder::deliver(const QString& name) const {
+  const QString source = QStringLiteral(QUARTELA_SOURCE_DIR "/resources/delivery/") + name;
+  QVERIFY2(QFile::copy(source, path(name)), qUtf8Printable(source));
+}
+
+}  // namespace quartela::test
