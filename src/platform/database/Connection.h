@@ -2,8 +2,9 @@
 //
 // A file is opened as it stands and never changed by the opening. Errors of open(): 3024 the file
 // does not exist; 3044 the path leads to nothing that can be opened: it is empty, a folder or
-// malformed, the folder does not exist, the file cannot be read, is empty, or is no database of this
-// program (the description says which; an Access file is recognised by its head and named as such).
+// malformed, the folder does not exist, the file cannot be read, is empty, or is no database of
+// this program (the description says which; an Access file is recognised by its head and named as
+// such).
 #pragma once
 
 #include <QString>
@@ -40,7 +41,9 @@ class Connection {
   // Errors: 3704 closed, the dialect's, 3200 dependants, 3218 locked by another program.
   int execute(const QString& statement);
 
-  // One transaction at a time; beginning takes the write lock (3218 after a short wait).
+  // One transaction at a time (error 5 otherwise); beginning takes the write lock (3218 after a
+  // short wait). A commit that fails leaves the transaction to be rolled back; a rollback without
+  // one does nothing.
   void beginTransaction();
   void commit();
   void rollback();
@@ -50,7 +53,8 @@ class Connection {
   SqliteSession& session();
 
  private:
-  std::unique_ptr<SqliteSession> session_;
+  // Shared, so that a Recordset can tell that its connection has been closed.
+  std::shared_ptr<SqliteSession> session_;
   CursorLocation cursorLocation_ = Server;
 };
 

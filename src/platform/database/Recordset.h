@@ -36,7 +36,8 @@ class Recordset {
   int recordCount() const;
   bool eof() const;
   bool bof() const;
-  // Errors: 3704 closed, 3021 moving past the ends (or to the first row of none).
+  // Errors: 3704 closed, 3021 moving past the ends (or to the first row of none), 5 while a row is
+  // begun, as nothing may be lost by the way.
   void moveFirst();
   void moveLast();
   void moveNext();
@@ -54,17 +55,17 @@ class Recordset {
   Value field(QStringView name) const;
 
   // Begins a new row. Takes the write lock with LockType::Pessimistic: 3218 after a short wait when
-  // another program holds it. Error 3027 when the source can only be read.
+  // another program holds it. Error 3027 when the source can only be read, 5 while a row is begun.
   void addNew();
-  // Writes a cell of the row begun; without one, begins a change of the current row (3021 when there
-  // is none, 3167 when another program has deleted it). The value is converted to the column's type:
-  // 13 and 6 as Convert raises them. 3027 for a computed column.
+  // Writes a cell of the row begun; without one, begins a change of the current row (3021 when
+  // there is none, 3167 when another program has deleted it). The value is converted to the
+  // column's type: 13 and 6 as Convert raises them. 3027 for a computed column.
   void setField(int position, const Value& value);
   void setField(QStringView name, const Value& value);
-  // Writes the row begun and gives the lock up; the row is then safe on the disk. Without a row begun
-  // it is error 3021 when there is no current row, and does nothing otherwise.
-  // Errors: 3022 the key exists, 3314 a required column is null, 3317 a value the file refuses, 3201
-  // a row it refers to is missing, 3218, 61 disk full, 3051 read-only. The row begun then stays, for
+  // Writes the row begun and gives the lock up; the row is then safe on the disk. Without a row
+  // begun it is error 3021 when there is no current row, and does nothing otherwise. Errors: 3022
+  // the key exists, 3314 a required column is null, 3317 a value the file refuses, 3201 a row it
+  // refers to is missing, 3218, 61 disk full, 3051 read-only. The row begun then stays, for
   // cancelUpdate() or another try.
   void update();
   // Forgets the row begun and gives the lock up; without one it does nothing.
@@ -72,6 +73,10 @@ class Recordset {
 
  private:
   struct Data;
+
+  Data& opened() const;
+  void moveTo(int row);
+
   std::unique_ptr<Data> data_;
 };
 

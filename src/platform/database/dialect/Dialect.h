@@ -30,23 +30,26 @@ struct ResultColumn {
 
 // Placeholders ?1, ?2 ... of the engine text stand for these, evaluated when the statement runs.
 enum class Parameter : std::uint8_t {
-  Now,          // the clock's moment as ISO text "YYYY-MM-DD HH:MM:SS"
+  Now,  // the clock's moment as ISO text "YYYY-MM-DD HH:MM:SS"
 };
 
 struct EngineStatement {
   StatementKind kind = StatementKind::Select;
-  std::string sql;                      // UTF-8, SQLite's dialect
-  std::vector<ResultColumn> columns;    // of a SELECT
-  std::vector<Parameter> parameters;    // ?1 is the first
+  std::string sql;                    // UTF-8, SQLite's dialect
+  std::vector<ResultColumn> columns;  // of a SELECT
+  std::vector<Parameter> parameters;  // ?1 is the first
 
-  // A SELECT on exactly one table, without grouping, DISTINCT or joins, can be written through. Then
-  // `updatableTable` names the table, and behind `columns` the engine text selects `keyColumns`, the
-  // columns of its primary key.
+  // A SELECT on exactly one table, without grouping, DISTINCT or joins, can be written through.
+  // Then `updatableTable` names the table, and behind `columns` the engine text selects
+  // `keyColumns`, the columns of its primary key.
   QString updatableTable;
   std::vector<QString> keyColumns;
 };
 
-// Translates one statement. A bare table or stored-query name is a SELECT of all its columns.
+// Translates one statement, of at most 65,536 characters and limited nesting (3075 beyond).
+// DISTINCTROW is ALL. TOP n gives n rows, without the ties of the last. An alias of the result can
+// be said in ORDER BY only, where it stands before a column of the same name. A bare table or
+// stored-query name is a SELECT of all its columns.
 EngineStatement translate(QStringView statement, const Catalogue& catalogue);
 
 }  // namespace quartela::dialect

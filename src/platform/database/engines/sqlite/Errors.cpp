@@ -1,0 +1,83 @@
+#include "platform/database/engines/sqlite/Errors.h"
+
+#include <QString>
+#include <cerrno>
+#include <new>
+
+#include "platform/values/RuntimeError.h"
+
+namespace quartela::sqlite {
+namespace {
+
+constexpr int kPrimaryCodeMask = 0xFF;
+
+ErrorNumber constraintNumber(int code, Activity activity) {
+  switch (code) {
+    case SQLITE_CONSTRAINT_FOREIGNKEY:
+    case SQLITE_CONSTRAINT_TRIGGER:  // the engine carries RESTRICT out as a trigger of its own
+      return activity == Activity::Deleting ? ErrorNumber::DependantsExist
+                                            : ErrorNumber::ParentMissing;
+    case SQLITE_CONSTRAINT_NOTNULL:
+      return ErrorNumber::ColumnRequired;
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+    case SQLITE_CONSTRAINT_UNIQUE:
+    case SQLITE_CONSTRAINT_ROWID:
+      return ErrorNumber::DuplicateKey;
+    default:
+      return ErrorNumber::ValueRefused;
+  }
+}
+
+// What keeps a file from being used at all is a matter of its path while it is being opened.
+ErrorNumber fileNumber(Activity activity, ErrorNumber later) {
+  return activity == Activity::Opening ? ErrorNumber::InvalidPath : later;
+}
+
+ErrorNumber ioNumber(sqlite3* db) {
+  const int cause = db != nullptr ? sqlite3_system_errno(db) : 0;
+  return cause == ENOSPC || cause == EDQUOT ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccess;
+}
+
+ErrorNumber numberOf(sqlite3* db, int code, Activity activity) {
+  switch (code & kPrimaryCodeMask) {
+    case SQLITE_CONSTRAINT:
+      return constraintNumber(code, activity);
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+    case SQLITE_PROTOCOL:
+      return ErrorNumber::RowLocked;
+    case SQLITE_FULL:
+      return ErrorNumber::DiskFull;
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_CANTOPEN:
+    case SQLITE_AUTH:
+      return fileNumber(activity, ErrorNumber::ReadOnlyDatabase);
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+      return fileNumber(activity, ErrorNumber::DatabaseDamaged);
+    case SQLITE_IOERR:
+      return ioNumber(db);
+    case SQLITE_MISMATCH:
+      return ErrorNumber::TypeMismatch;
+    case SQLITE_TOOBIG:
+      return ErrorNumber::Overflow;
+    case SQLITE_ERROR:
+      // A statement that could be prepared only fails over a number that it computes.
+      return activity == Activity::Preparing ? ErrorNumber::SyntaxError : ErrorNumber::Overflow;
+    default:
+      return ErrorNumber::InvalidProcedureCall;
+  }
+}
+
+}  // namespace
+
+void raise(sqlite3* db, int code, Activity activity) {
+  if ((code & kPrimaryCodeMask) == SQLITE_NOMEM) {
+    throw std::bad_alloc();
+  }
+  const char* words = db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(code);
+  throw RuntimeError(numberOf(db, code, activity), QString::fromUtf8(words));
+}
+
+}  // namespace quartela::sqlite

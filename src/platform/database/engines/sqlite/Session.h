@@ -1,0 +1,90 @@
+// One open database file of the embedded engine: its handle, its catalogue, and who writes when.
+//
+// The write lock of the file is taken by the transaction of Connection, by a row that a Recordset
+// has begun with LockType::Pessimistic (a holder), or for the moment of one statement (WriteScope).
+// A statement of its own is safe on the disk when it returns, whoever holds the lock; inside the
+// transaction of Connection it waits for the commit.
+#pragma once
+
+#include <sqlite3.h>
+
+#include <QString>
+#include <memory>
+
+#include "platform/database/dialect/Catalogue.h"
+
+namespace quartela {
+
+namespace sqlite {
+
+struct CloseHandle {
+  void operator()(sqlite3* db) const;
+};
+using Handle = std::unique_ptr<sqlite3, CloseHandle>;
+
+class WriteScope;
+
+}  // namespace sqlite
+
+class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
+ public:
+  // Opens the file; the errors are those of Connection::open. A file or folder that is protected
+  // against writing is opened for reading.
+  explicit SqliteSession(const QString& path);
+  // Rolls back what is open and leaves one file.
+  ~SqliteSession();
+  SqliteSession(const SqliteSession&) = delete;
+  SqliteSession& operator=(const SqliteSession&) = delete;
+
+  sqlite3* handle() const { return db_.get(); }
+  const Catalogue& catalogue() const { return catalogue_; }
+
+  // The transaction of Connection, one at a time. Error 5 for a second one, and for a commit
+  // without one or when the engine has given it up by itself. A rollback without one does nothing.
+  void beginTransaction();
+  void commit();
+  void rollback();
+  bool inTransaction() const { return transaction_; }
+
+  // A row begun that keeps the write lock until the holder is removed; 3218 when another program
+  // has it.
+  void addLockHolder();
+  void removeLockHolder();
+
+ private:
+  friend class sqlite::WriteScope;
+
+  bool engineInTransaction() const { return sqlite3_get_autocommit(db_.get()) == 0; }
+  void takeLock();
+  void giveUpTransaction();
+  // After a commit or rollback: takes the lock again for rows that are still begun. When another
+  // program was quicker, they take it with their update.
+  void keepLock();
+
+  sqlite::Handle db_;
+  Catalogue catalogue_;
+  bool transaction_ = false;
+  int lockHolders_ = 0;
+};
+
+namespace sqlite {
+
+// The write lock for one statement: undoes what was written unless commit() has been called.
+class WriteScope {
+ public:
+  explicit WriteScope(SqliteSession& session);
+  ~WriteScope();
+  WriteScope(const WriteScope&) = delete;
+  WriteScope& operator=(const WriteScope&) = delete;
+
+  // What was written is then on the disk, or part of the transaction of Connection.
+  void commit();
+
+ private:
+  SqliteSession& session_;
+  bool nested_;
+  bool done_ = false;
+};
+
+}  // namespace sqlite
+}  // namespace quartela

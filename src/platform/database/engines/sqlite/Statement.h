@@ -1,0 +1,48 @@
+// A prepared statement of the engine, finalised when it leaves its scope.
+#pragma once
+
+#include <string_view>
+
+#include "platform/database/engines/sqlite/Errors.h"
+#include "platform/values/Value.h"
+
+namespace quartela::sqlite {
+
+class Statement {
+ public:
+  // `sql` is one statement in UTF-8. `activity` says how the engine's refusals are to be read.
+  Statement(sqlite3* db, std::string_view sql, Activity activity);
+  ~Statement();
+  Statement(const Statement&) = delete;
+  Statement& operator=(const Statement&) = delete;
+
+  // Binds ?`index` (from 1) in the form that the file keeps: money as ten-thousandths, dates as ISO
+  // text, bools as 0 and 1.
+  void bind(int index, const Value& value);
+
+  // True when there is a row.
+  bool step() {
+    const int code = sqlite3_step(statement_);
+    check(db_, code, activity_);
+    return code == SQLITE_ROW;
+  }
+
+  QString text(int column) const;
+  std::int64_t integer(int column) const { return sqlite3_column_int64(statement_, column); }
+  sqlite3_stmt* raw() const { return statement_; }
+
+ private:
+  int bindCell(int index, const Value& value);
+
+  sqlite3* db_;
+  sqlite3_stmt* statement_ = nullptr;
+  Activity activity_;
+};
+
+// Runs a statement that gives no rows, or whose rows nobody reads.
+void run(sqlite3* db, std::string_view sql, Activity activity);
+
+// `name` as the engine's text bears it: in double quotes.
+std::string quoted(const QString& name);
+
+}  // namespace quartela::sqlite
