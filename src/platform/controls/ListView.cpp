@@ -1,0 +1,410 @@
+#include "platform/controls/ListView.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyledItemDelegate>
+#include <algorithm>
+
+#include "platform/controls/ListModel.h"
+#include "platform/values/RuntimeError.h"
+
+namespace quartela {
+namespace {
+
+constexpr int kRowMargin = 3;
+
+// One height for all rows, without asking any of them.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize hint = QStyledItemDelegate::sizeHint(option, index);
+    const int content = std::max(option.fontMetrics.height(), option.decorationSize.height());
+    return {hint.width(), content + 2 * kRowMargin};
+  }
+};
+
+bool isMoveKey(int key) {
+  constexpr int kKeys[] = {Qt::Key_Up,  Qt::Key_Down,   Qt::Key_Home,
+                           Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown};
+  return std::find(std::begin(kKeys), std::end(kKeys), key) != std::end(kKeys);
+}
+
+}  // namespace
+
+int ColumnWidth::toPixels(int dpi) const {
+  return perInch_ == 0 ? amount_ : (amount_ * dpi + perInch_ / 2) / perInch_;
+}
+
+ListView::ListView(QWidget* parent) : QTreeView(parent), model_(new ListModel(this)) {
+  setModel(model_);
+  setItemDelegate(new RowDelegate(this));
+  setRootIsDecorated(false);
+  setItemsExpandable(false);
+  setUniformRowHeights(true);
+  setAllColumnsShowFocus(true);
+  setAlternatingRowColors(true);
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setTabKeyNavigation(false);
+  keepSelectionVisible();
+  setUpHeader();
+  connect(model_, &ListModel::checkToggled, this, &ListView::itemCheckToggled);
+}
+
+void ListView::setUpHeader() {
+  header()->setSectionsClickable(true);
+  header()->setSectionsMovable(false);
+  header()->setStretchLastSection(false);
+  header()->setHighlightSections(false);
+  connect(header(), &QHeaderView::sectionClicked, this,
+          [this](int section) { emit columnClicked(section + 1); });
+}
+
+// The selection stays plain to see while the focus is in a field.
+void ListView::keepSelectionVisible() {
+  QPalette colours = QApplication::palette(this);
+  for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText}) {
+    colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
+  }
+  setPalette(colours);
+}
+
+void ListView::changeEvent(QEvent* event) {
+  QTreeView::changeEvent(event);
+  if (event->type() == QEvent::StyleChange) {
+    keepSelectionVisible();
+  }
+}
+
+void ListView::addColumn(const QString& header, ColumnWidth width, Qt::Alignment alignment) {
+  model_->addColumn(header, alignment);
+  setColumnWidth(columnCount() - 1, width.toPixels(logicalDpiX()));
+}
+
+void ListView::setColumnHeader(int column, const QString& header) {
+  if (column < 0 || column >= columnCount()) {
+    throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+  }
+  model_->setHeader(column, header);
+}
+
+int ListView::columnCount() const {
+  return model_->columnCount();
+}
+
+void ListView::clear() {
+  model_->clear();
+}
+
+int ListView::count() const {
+  return model_->store().count();
+}
+
+int ListView::checked(int row) const {
+  if (row < 0 || row >= count()) {
+    throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+  }
+  return row;
+}
+
+int ListView::addItem(const QString& text) {
+  return addRow(std::span<const QString>(&text, 1));
+}
+
+int ListView::addRow(std::span<const QString> cells) {
+  const int row = model_->append(cells);
+  later();
+  return row;
+}
+
+int ListView::addRow(std::initializer_list<QString> cells) {
+  return addRow(std::span<const QString>(cells.begin(), cells.size()));
+}
+
+void ListView::setText(int row, const QString& text) {
+  setSubItem(row, 0, text);
+}
+
+void ListView::setSubItem(int row, int n, const QString& text) {
+  if (n < 0) {
+    throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+  }
+  model_->setText(checked(row), n, text);
+  later();
+}
+
+QString ListView::text(int row) const {
+  return model_->store().text(checked(row), 0);
+}
+
+QString ListView::subItem(int row, int n) const {
+  if (n < 0) {
+    throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+  }
+  return model_->store().text(checked(row), n);
+}
+
+void ListView::setTag(int row, const QString& tag) {
+  model_->setTag(checked(row), tag);
+}
+
+QString ListView::tag(int row) const {
+  return model_->store().tag(checked(row));
+}
+
+void ListView::removeItem(int row) {
+  model_->removeRow(checked(row));
+}
+
+void ListView::setIconList(const QList<QIcon>& icons, QSize size) {
+  setIconSize(size);
+  model_->setIcons(icons);
+}
+
+void ListView::setIcon(int row, int icon) {
+  model_->setIcon(checked(row), icon);
+}
+
+int ListView::icon(int row) const {
+  return model_->store().info(checked(row)).icon;
+}
+
+void ListView::setCheckBoxes(bool on) {
+  model_->setCheckBoxes(on);
+}
+
+void ListView::setChecked(int row, bool isOn) {
+  model_->setChecked(checked(row), isOn);
+}
+
+bool ListView::isChecked(int row) const {
+  return model_->store().info(checked(row)).checked;
+}
+
+int ListView::selectedRow() const {
+  if (!currentIndex().isValid() || model_->hasWork()) {
+    const_cast<ListView*>(this)->flush();
+  }
+  return currentIndex().row();
+}
+
+void ListView::selectRow(int row) {
+  model_->publish();
+  if (row == -1) {
+    clearSelection();
+    return;
+  }
+  setCurrentIndex(model_->index(checked(row), 0));
+}
+
+bool ListView::hasSelection() const {
+  return selectionModel()->hasSelection();
+}
+
+void ListView::ensureVisible(int row) {
+  model_->publish();
+  scrollTo(model_->index(checked(row), 0));
+}
+
+int ListView::findSubItem(const QString& beginning, int from) const {
+  if (beginning.isEmpty()) {
+    return -1;
+  }
+  const RowStore& store = model_->store();
+  const auto atMost = static_cast<std::size_t>(beginning.size() + 1) * 3;
+  for (int row = std::max(from, 0); row < store.count(); ++row) {
+    for (int n = 1; n < store.cells(); ++n) {
+      const std::string_view head = store.bytes(row, n).substr(0, atMost);
+      if (!head.empty() && QString::fromUtf8(head.data(), static_cast<qsizetype>(head.size()))
+                               .startsWith(beginning, Qt::CaseInsensitive)) {
+        return row;
+      }
+    }
+  }
+  return -1;
+}
+
+void ListView::setSortKey(int cell) {
+  if (cell < 0) {
+    throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+  }
+  model_->setSortKey(cell);
+  showSortIndicator();
+}
+
+void ListView::setSortOrder(Qt::SortOrder order) {
+  model_->setSortOrder(order);
+  showSortIndicator();
+}
+
+void ListView::setSorted(bool sorted) {
+  model_->setSorted(sorted);
+  showSortIndicator();
+}
+
+void ListView::showSortIndicator() {
+  header()->setSortIndicatorShown(isSorted());
+  header()->setSortIndicator(sortKey(), sortOrder());
+  later();
+}
+
+int ListView::sortKey() const {
+  return model_->sortKey();
+}
+
+Qt::SortOrder ListView::sortOrder() const {
+  return model_->sortOrder();
+}
+
+bool ListView::isSorted() const {
+  return model_->isSorted();
+}
+
+void ListView::later() {
+  if (!flushPosted_ && model_->hasWork()) {
+    flushPosted_ = true;
+    QMetaObject::invokeMethod(this, &ListView::flush, Qt::QueuedConnection);
+  }
+}
+
+void ListView::flush() {
+  flushPosted_ = false;
+  model_->flush();
+  keepCurrentRow();
+  showFirstColumnWhole();
+}
+
+// The first column holds the row's key beside icon and tick: it is never cut short.
+void ListView::showFirstColumnWhole() {
+  if (count() > 0 && columnCount() > 0) {
+    const int needed = sizeHintForIndex(model_->index(0, 0)).width();
+    setColumnWidth(0, std::max(columnWidth(0), needed));
+  }
+}
+
+void ListView::keepCurrentRow() {
+  if (!currentIndex().isValid() && count() > 0) {
+    selectionModel()->setCurrentIndex(model_->index(0, 0), QItemSelectionModel::NoUpdate);
+  }
+}
+
+void ListView::paintEvent(QPaintEvent* event) {
+  if (model_->hasWork()) {
+    flush();
+  }
+  QTreeView::paintEvent(event);
+}
+
+int ListView::rowAt(const QPoint& position) const {
+  return indexAt(position).row();
+}
+
+void ListView::mousePressEvent(QMouseEvent* event) {
+  const int row = rowAt(event->position().toPoint());
+  QTreeView::mousePressEvent(event);
+  if (row >= 0 && row < count()) {
+    // A press on the tick alone would leave the row where it is.
+    if (currentIndex().row() != row) {
+      selectRow(row);
+    }
+    emit itemClicked(row);
+  }
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+  const int row = rowAt(event->position().toPoint());
+  QTreeView::mouseDoubleClickEvent(event);
+  if (row >= 0 && event->button() == Qt::LeftButton) {
+    emit itemDoubleClicked(row);
+    emit itemActivated(row);
+  }
+}
+
+void ListView::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+  if (event->reason() != QContextMenuEvent::Keyboard) {
+    emit contextMenuRequested(rowAt(viewport()->mapFromGlobal(event->globalPos())),
+                              event->globalPos());
+    return;
+  }
+  const int row = selectedRow();
+  if (row >= 0) {
+    ensureVisible(row);
+  }
+  const QPoint below = visualRect(currentIndex()).bottomLeft();
+  emit contextMenuRequested(row, viewport()->mapToGlobal(below));
+}
+
+void ListView::keyPressEvent(QKeyEvent* event) {
+  if (model_->hasWork()) {
+    flush();
+  }
+  const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (plain && (pressCommandKey(event->key()) || selectOnFirstMove(event))) {
+    return;
+  }
+  const int before = currentIndex().row();
+  QTreeView::keyPressEvent(event);
+  const int after = currentIndex().row();
+  if (after >= 0 && after != before) {
+    emit itemClicked(after);
+  }
+}
+
+bool ListView::pressCommandKey(int key) {
+  const int row = currentIndex().row();
+  const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+  const bool isTick = key == Qt::Key_Space && model_->checkBoxes();
+  if (row < 0 || !(isEnter || isTick || key == Qt::Key_Delete)) {
+    return false;
+  }
+  if (isEnter) {
+    emit itemActivated(row);
+  } else if (isTick) {
+    model_->setData(model_->index(row, 0), isChecked(row) ? Qt::Unchecked : Qt::Checked,
+                    Qt::CheckStateRole);
+  } else {
+    emit deleteRequested(row);
+  }
+  return true;
+}
+
+// The current row of a list just filled is not selected yet: the first arrow selects it instead of
+// passing it by.
+bool ListView::selectOnFirstMove(QKeyEvent* event) {
+  if (hasSelection() || !currentIndex().isValid() || !isMoveKey(event->key()) ||
+      event->key() == Qt::Key_End || event->key() == Qt::Key_PageDown) {
+    return false;
+  }
+  goTo(currentIndex().row());
+  return true;
+}
+
+void ListView::goTo(int row) {
+  selectRow(row);
+  emit itemClicked(row);
+}
+
+void ListView::keyboardSearch(const QString& text) {
+  const bool goesOn =
+      sinceTyped_.isValid() && sinceTyped_.elapsed() < QApplication::keyboardInputInterval();
+  typed_ = goesOn ? typed_ + text : text;
+  sinceTyped_.start();
+  // A new beginning looks behind the current row, so that one letter typed again and again goes on.
+  const int start = std::max(currentIndex().row(), 0) + (goesOn || !hasSelection() ? 0 : 1);
+  for (int step = 0; step < count(); ++step) {
+    const int row = (start + step) % count();
+    if (this->text(row).startsWith(typed_, Qt::CaseInsensitive)) {
+      goTo(row);
+      return;
+    }
+  }
+}
+
+}  // namespace quartela

@@ -1,0 +1,84 @@
+#include "platform/controls/OpenForms.h"
+
+#include <QDialog>
+#include <QEvent>
+#include <QPointer>
+#include <QWidget>
+#include <algorithm>
+
+namespace quartela::OpenForms {
+namespace {
+
+// Knows whether a window has been closed, although it may be deleted later or never. A close that
+// the window refuses leaves it visible.
+class CloseWatch : public QObject {
+ public:
+  explicit CloseWatch(QWidget* form) : QObject(form), form_(form) {
+    form->installEventFilter(this);
+    // A dialog that a button or Escape ends gets no close event.
+    if (auto* const dialog = qobject_cast<QDialog*>(form)) {
+      connect(dialog, &QDialog::finished, this, [this] { closed_ = true; });
+    }
+  }
+
+  QWidget* form() const { return form_; }
+  bool isOpen() const { return !(closed_ && form_->isHidden()); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Close) {
+      closed_ = true;
+    } else if (event->type() == QEvent::Show) {
+      closed_ = false;
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  QWidget* form_;
+  bool closed_ = false;
+};
+
+// The watches are children of their windows and go with them.
+QList<QPointer<CloseWatch>>& watches() {
+  static QList<QPointer<CloseWatch>> list;
+  list.removeIf([](const QPointer<CloseWatch>& watch) { return watch.isNull(); });
+  return list;
+}
+
+}  // namespace
+
+void add(QWidget* form) {
+  if (all().contains(form)) {
+    return;
+  }
+  for (const QPointer<CloseWatch>& watch : watches()) {
+    if (watch->form() == form) {
+      delete watch.data();
+    }
+  }
+  watches().append(new CloseWatch(form));
+}
+
+QList<QWidget*> all() {
+  QList<QWidget*> open;
+  for (const QPointer<CloseWatch>& watch : watches()) {
+    if (watch->isOpen()) {
+      open.append(watch->form());
+    }
+  }
+  return open;
+}
+
+QWidget* find(const QString& name) {
+  const QList<QWidget*> open = all();
+  const auto found = std::find_if(open.cbegin(), open.cend(), [&name](const QWidget* form) {
+    return form->objectName() == name;
+  });
+  return found == open.cend() ? nullptr : *found;
+}
+
+bool unload(QWidget* form) {
+  return form->close();
+}
+
+}  // namespace quartela::OpenForms

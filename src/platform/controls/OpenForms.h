@@ -1,0 +1,25 @@
+// The program's open windows, known by their object name ("frmAviso"), in the order of their
+// opening.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QWidget;
+
+namespace quartela::OpenForms {
+
+// Enters a window. It leaves by itself when it is closed or destroyed. Not owned; entering it twice
+// changes nothing.
+void add(QWidget* form);
+
+// From the first opened to the last.
+QList<QWidget*> all();
+
+// The first with that very name; null for none.
+QWidget* find(const QString& name);
+
+// Closes the window. False when it refused to close and stays open.
+bool unload(QWidget* form);
+
+}  // namespace quartela::OpenForms
