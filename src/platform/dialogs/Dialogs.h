@@ -1,5 +1,5 @@
-// The one way to every box and every dialog of the program. Nothing else calls the toolkit's, so that
-// tests can say beforehand which box they expect, with every word of it, and what is answered.
+// The one way to every box and every dialog of the program. Nothing else calls the toolkit's, so
+// that tests can say beforehand which box they expect, with every word of it, and what is answered.
 #pragma once
 
 #include <QList>
@@ -14,25 +14,25 @@ enum class BoxIcon { None, Stop, Question, Exclamation, Information };
 enum class Button { Ok, Cancel, Yes, No };
 
 struct Box {
-  QString text;
-  QString title;                       // empty: the application's, "Quartela"
+  QString text{};
+  QString title{};  // empty: the application's, "Quartela"
   BoxIcon icon = BoxIcon::None;
   QList<Button> buttons{Button::Ok};
-  Button defaultButton = Button::Ok;   // the first of `buttons` where it is none of them
+  Button defaultButton = Button::Ok;  // the first of `buttons` where it is none of them
 };
 
 // A file filter as the program writes it: "Words (*.MDB)|*.MDB|". Both letter cases match.
 struct FileRequest {
-  QString title;
-  QString filter;
-  QString folder;                      // where it starts; empty: where the system says
-  QString fileName;                    // the name proposed, for saving
+  QString title{};
+  QString filter{};
+  QString folder{};    // where it starts; empty: where the system says
+  QString fileName{};  // the name proposed, for saving
 };
 
 struct InputRequest {
-  QString text;
-  QString title;
-  QString initialValue;
+  QString text{};
+  QString title{};
+  QString initialValue{};
 };
 
 class DialogHost {
@@ -63,7 +63,8 @@ void stop(const QString& text, const QString& title = {});
 bool confirm(const QString& text, const QString& title);
 
 // Puts `host` in the place of the toolkit's dialogs, or, with null, the toolkit's back. Not owned.
-void setHost(DialogHost* host);
+// Gives the host that it takes the place of, null for the toolkit's.
+DialogHost* setHost(DialogHost* host);
 
 }  // namespace Dialogs
 }  // namespace quartela

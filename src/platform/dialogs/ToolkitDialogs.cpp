@@ -1,0 +1,199 @@
+#include "platform/dialogs/ToolkitDialogs.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QWidget>
+
+#include "platform/dialogs/FileFilters.h"
+#include "platform/dialogs/InputBox.h"
+
+namespace quartela {
+namespace {
+
+QMessageBox::Icon toolkitIcon(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Stop:
+      return QMessageBox::Critical;
+    case BoxIcon::Question:
+      return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+      return QMessageBox::Warning;
+    case BoxIcon::Information:
+      return QMessageBox::Information;
+    case BoxIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton toolkitButton(Button button) {
+  switch (button) {
+    case Button::Cancel:
+      return QMessageBox::Cancel;
+    case Button::Yes:
+      return QMessageBox::Yes;
+    case Button::No:
+      return QMessageBox::No;
+    case Button::Ok:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
+QString buttonWords(Button button) {
+  switch (button) {
+    case Button::Cancel:
+      return QStringLiteral("&Cancelar");
+    case Button::Yes:
+      return QStringLiteral("&Sim");
+    case Button::No:
+      return QStringLiteral("&Não");
+    case Button::Ok:
+      break;
+  }
+  return QStringLiteral("OK");
+}
+
+void fillBox(QMessageBox& dialog, const Box& box) {
+  dialog.setWindowTitle(shownTitle(box.title));
+  dialog.setTextFormat(Qt::PlainText);
+  dialog.setText(box.text);
+  dialog.setIcon(toolkitIcon(box.icon));
+  for (const Button button : box.buttons) {
+    dialog.addButton(toolkitButton(button))->setText(buttonWords(button));
+  }
+  dialog.setDefaultButton(toolkitButton(shownDefault(box)));
+  dialog.setEscapeButton(toolkitButton(closingAnswer(box)));
+}
+
+// A dialog may lose its window, and with it itself, while it is shown; `read` then has nothing to
+// read and the answer is `closed`.
+template <typename Dialog, typename Answer, typename Read>
+Answer show(Dialog* dialog, const Answer& closed, Read read) {
+  const QPointer<Dialog> guard(dialog);
+  dialog->exec();
+  if (!guard) {
+    return closed;
+  }
+  const Answer answer = read(*dialog);
+  delete dialog;
+  return answer;
+}
+
+Button answerOf(const Box& box, const QMessageBox& dialog) {
+  const QAbstractButton* const clicked = dialog.clickedButton();
+  for (const Button button : box.buttons) {
+    if (clicked && dialog.button(toolkitButton(button)) == clicked) {
+      return button;
+    }
+  }
+  return closingAnswer(box);
+}
+
+QString showFileDialog(QFileDialog* dialog) {
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
+  dialog->setLabelText(QFileDialog::Reject, QStringLiteral("&Cancelar"));
+  return show(dialog, QString(), [](const QFileDialog& shown) {
+    const QStringList picked = shown.selectedFiles();
+    const bool accepted = shown.result() == QDialog::Accepted && !picked.isEmpty();
+    return accepted ? QDir::toNativeSeparators(picked.first()) : QString();
+  });
+}
+
+QFileDialog* fileDialog(const FileRequest& request, const QString& title) {
+  auto* dialog = new QFileDialog(dialogParent());
+  dialog->setWindowTitle(request.title.isEmpty() ? title : request.title);
+  // The filter's words stand alone in the list, without the patterns that match both cases.
+  dialog->setOption(QFileDialog::HideNameFilterDetails);
+  if (!request.folder.isEmpty()) {
+    dialog->setDirectory(request.folder);
+  }
+  const QStringList filters = toolkitFilters(request.filter);
+  if (!filters.isEmpty()) {
+    dialog->setNameFilters(filters);
+  }
+  return dialog;
+}
+
+}  // namespace
+
+Button closingAnswer(const Box& box) {
+  for (const Button button : {Button::Cancel, Button::No}) {
+    if (box.buttons.contains(button)) {
+      return button;
+    }
+  }
+  return Button::Ok;
+}
+
+QString shownTitle(const QString& title) {
+  return title.isEmpty() ? QStringLiteral("Quartela") : title;
+}
+
+Button shownDefault(const Box& box) {
+  if (box.buttons.isEmpty() || box.buttons.contains(box.defaultButton)) {
+    return box.defaultButton;
+  }
+  return box.buttons.first();
+}
+
+QWidget* dialogParent() {
+  QWidget* fallback = nullptr;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    const Qt::WindowType type = window->windowType();
+    if (window->isVisible() && (type == Qt::Window || type == Qt::Dialog)) {
+      fallback = window;
+    }
+  }
+  for (QWidget* window : {QApplication::activeWindow(), QApplication::activeModalWidget()}) {
+    if (window && window->windowType() != Qt::SplashScreen) {
+      return window;
+    }
+  }
+  return fallback;
+}
+
+Button ToolkitDialogs::box(const Box& box) {
+  auto* dialog = new QMessageBox(dialogParent());
+  fillBox(*dialog, box);
+  return show(dialog, closingAnswer(box),
+              [&box](const QMessageBox& shown) { return answerOf(box, shown); });
+}
+
+QString ToolkitDialogs::openFile(const FileRequest& request) {
+  QFileDialog* dialog = fileDialog(request, QStringLiteral("Abrir"));
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  dialog->setLabelText(QFileDialog::Accept, QStringLiteral("&Abrir"));
+  return showFileDialog(dialog);
+}
+
+QString ToolkitDialogs::saveFile(const FileRequest& request) {
+  QFileDialog* dialog = fileDialog(request, QStringLiteral("Salvar como"));
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setFileMode(QFileDialog::AnyFile);
+  dialog->setDefaultSuffix(firstExtension(request.filter));
+  dialog->setLabelText(QFileDialog::Accept, QStringLiteral("&Salvar"));
+  dialog->selectFile(request.fileName);
+  return showFileDialog(dialog);
+}
+
+QString ToolkitDialogs::pickFolder(const QString& title) {
+  auto* dialog = new QFileDialog(dialogParent(), shownTitle(title));
+  dialog->setFileMode(QFileDialog::Directory);
+  dialog->setOption(QFileDialog::ShowDirsOnly);
+  dialog->setLabelText(QFileDialog::Accept, QStringLiteral("&Escolher"));
+  return showFileDialog(dialog);
+}
+
+QString ToolkitDialogs::input(const InputRequest& request) {
+  return show(new InputBox(request, dialogParent()), QString(), [](const InputBox& shown) {
+    return shown.result() == QDialog::Accepted ? shown.text() : QString();
+  });
+}
+
+}  // namespace quartela
