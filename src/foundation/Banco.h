@@ -10,6 +10,7 @@
 
 namespace quartela {
 
+// Never null: before Abre_banco and after Fecha_banco it is a closed connection (error 3704 at any use).
 extern std::unique_ptr<Connection> Conexao;
 extern Recordset Tabela;
 extern QString Sql_atual;

@@ -1,0 +1,40 @@
+// The program as the window system sees it: its name, language and look, and the one place where an
+// error arrives that no routine has trapped.
+#pragma once
+
+#include <QApplication>
+#include <QTranslator>
+#include <QVersionNumber>
+
+#include "platform/values/RuntimeError.h"
+
+namespace quartela {
+
+class Aplicacao : public QApplication {
+  Q_OBJECT
+
+ public:
+  // Sets locale and words (pt_BR, whatever the machine's), name, icon and look.
+  Aplicacao(int& argc, char** argv);
+
+  // An error that leaves an event handler is told by mostra_erro_sem_trava, and the program
+  // goes on with the next event.
+  bool notify(QObject* receiver, QEvent* event) override;
+
+ protected:
+  // The wheel scrolls the page over a field that does not have the focus; it does not change it.
+  bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+ private:
+  QTranslator tradutor_;
+};
+
+// The stop box of an error that no trap took: "Erro em tempo de execução " number ":", an empty
+// line, the description. An error that comes while one is shown waits for it to be closed; the same
+// one once more is not repeated.
+void mostra_erro_sem_trava(const RuntimeError& erro);
+
+// The program's version: major, minor, revision.
+QVersionNumber versao();
+
+}  // namespace quartela

@@ -1,0 +1,76 @@
+#include "foundation/Banco.h"
+
+#include <QFileInfo>
+
+#include "foundation/Erros.h"
+#include "foundation/Ini.h"
+#include "foundation/Splash.h"
+#include "foundation/frmParametros.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/files/ProgramFolder.h"
+
+namespace quartela {
+
+std::unique_ptr<Connection> Conexao = std::make_unique<Connection>();
+Recordset Tabela;
+QString Sql_atual;
+Caminhos caminhos;
+
+namespace {
+
+void le_caminhos() {
+  const QString config = programFile(QStringLiteral("Config.ini"));
+  const auto le = [&config](const char* chave) {
+    return Le_ini(QStringLiteral("Diretorio"), QLatin1String(chave), config);
+  };
+  caminhos.geral = le("caminhogeral");
+  caminhos.number = le("number");
+  caminhos.produtos = le("produtos");
+  caminhos.servicos = le("servicos");
+  caminhos.transporte = le("transporte");
+}
+
+// Where a file does stand at the path, the operator is told why it is not taken; where none does, the
+// settings screen speaks for itself.
+void pede_caminho(const RuntimeError& erro) {
+  if (QFileInfo::exists(nativePath(caminhos.geral))) {
+    Dialogs::exclamation(erro.description());
+  }
+  mostra_frmParametros();
+}
+
+}  // namespace
+
+void Abre_conexao() {
+  const QString texto =
+      QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + caminhos.geral + ';';
+  Conexao = std::make_unique<Connection>();
+  if (Conexao->state() == Connection::Closed) {
+    Conexao->open(texto);
+  }
+  Conexao->setCursorLocation(Connection::Client);
+}
+
+void Abre_banco() {
+  le_caminhos();
+  try {
+    Abre_conexao();
+    mostra_Splash();
+  } catch (const RuntimeError& erro) {
+    if (erro.code() == ErrorNumber::InvalidPath || erro.code() == ErrorNumber::DatabaseNotFound) {
+      pede_caminho(erro);
+    }
+  }
+}
+
+void Fecha_banco() {
+  if (Tabela.state() == Recordset::Open) {
+    Tabela.close();
+  }
+  if (Conexao->state() != Connection::Closed) {
+    Conexao->close();
+  }
+  Conexao = std::make_unique<Connection>();
+}
+
+}  // namespace quartela

@@ -1,0 +1,17 @@
+#include "foundation/Ini.h"
+
+#include "platform/files/KeyFile.h"
+#include "platform/files/ProgramFolder.h"
+
+namespace quartela {
+
+QString Le_ini(const QString& secao, const QString& chave, const QString& arquivo) {
+  return readKey(nativePath(arquivo), secao, chave);
+}
+
+void Grava_ini(const QString& secao, const QString& chave, const QString& valor,
+               const QString& arquivo) {
+  writeKey(nativePath(arquivo), secao, chave, valor);
+}
+
+}  // namespace quartela

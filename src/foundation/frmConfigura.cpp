@@ -1,0 +1,101 @@
+#include "foundation/frmConfigura.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <array>
+
+#include "foundation/Aplicacao.h"
+#include "foundation/Estilo.h"
+#include "foundation/Ini.h"
+#include "foundation/UmaJanela.h"
+#include "foundation/ui_frmConfigura.h"
+#include "platform/files/ProgramFolder.h"
+#include "platform/values/Convert.h"
+
+namespace quartela {
+namespace {
+
+QString config() {
+  return programFile(QStringLiteral("Config.ini"));
+}
+
+struct Texto {
+  const char* secao;
+  const char* chave;
+  QLineEdit* Ui::frmConfigura::*caixa;
+};
+
+constexpr std::array kTextos{
+    Texto{"Secretaria", "nome", &Ui::frmConfigura::txtSec},
+    Texto{"Financas", "nome", &Ui::frmConfigura::txtFinancas},
+    Texto{"Financas", "cargo", &Ui::frmConfigura::txtcargo},
+    Texto{"FTP", "endereco", &Ui::frmConfigura::txtEndereco},
+    Texto{"FTP", "user", &Ui::frmConfigura::txtUser},
+    Texto{"FTP", "senha", &Ui::frmConfigura::txtSenha},
+};
+
+struct Marca {
+  const char* secao;
+  const char* chave;
+  QCheckBox* Ui::frmConfigura::*caixa;
+};
+
+constexpr std::array kMarcas{
+    Marca{"Requisicao", "valor", &Ui::frmConfigura::Check1},
+    Marca{"Requisicao", "valor2", &Ui::frmConfigura::Check2},
+};
+
+}  // namespace
+
+frmConfigura::frmConfigura() : ui_(std::make_unique<Ui::frmConfigura>()) {
+  ui_->setupUi(this);
+  Estilo::prepara_janela(*this);
+  Estilo::destaca(*ui_->Command1);
+  Estilo::esconde_senha(*ui_->txtSenha);
+  ui_->txtSec->setFocus();
+  carrega();
+  connect(ui_->Command1, &QPushButton::clicked, this, &frmConfigura::Command1_click);
+}
+
+frmConfigura::~frmConfigura() = default;
+
+void frmConfigura::carrega() {
+  for (const Texto& texto : kTextos) {
+    (ui_.get()->*texto.caixa)
+        ->setText(Le_ini(QLatin1String(texto.secao), QLatin1String(texto.chave), config()));
+  }
+  for (const Marca& marca : kMarcas) {
+    const QString valor = Le_ini(QLatin1String(marca.secao), QLatin1String(marca.chave), config());
+    (ui_.get()->*marca.caixa)->setChecked(Convert::toI16(Value(valor)) != 0);
+  }
+}
+
+void frmConfigura::Command1_click() {
+  for (const Texto& texto : kTextos) {
+    Grava_ini(QLatin1String(texto.secao), QLatin1String(texto.chave),
+              (ui_.get()->*texto.caixa)->text(), config());
+  }
+  for (const Marca& marca : kMarcas) {
+    const bool marcada = (ui_.get()->*marca.caixa)->isChecked();
+    Grava_ini(QLatin1String(marca.secao), QLatin1String(marca.chave),
+              marcada ? QStringLiteral("1") : QStringLiteral("0"), config());
+  }
+  close();
+}
+
+void frmConfigura::keyPressEvent(QKeyEvent* evento) {
+  if (evento->key() != Qt::Key_Escape) {
+    QDialog::keyPressEvent(evento);
+  }
+}
+
+void mostra_frmConfigura() {
+  try {
+    UmaJanela<frmConfigura>::mostra();
+  } catch (const RuntimeError& erro) {
+    mostra_erro_sem_trava(erro);
+    QCoreApplication::exit();
+  }
+}
+
+}  // namespace quartela

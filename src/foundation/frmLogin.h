@@ -1,0 +1,37 @@
+// The window that the program starts with: the password, and the database file of this run.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+namespace quartela {
+
+namespace Ui {
+class frmLogin;
+}
+
+class frmLogin : public QDialog {
+  Q_OBJECT
+
+ public:
+  frmLogin();
+  ~frmLogin() override;
+
+ protected:
+  // The password field is yellow while it has the focus.
+  bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+ private:
+  void cmdOk_click();
+  void cmdUp_click();
+  void recusa_senha();
+  void grava_caminhogeral();
+  void ajusta_altura(bool aberta);
+
+  std::unique_ptr<Ui::frmLogin> ui_;
+};
+
+// Shows the login window; what main() does.
+void mostra_frmLogin();
+
+}  // namespace quartela

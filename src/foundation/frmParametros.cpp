@@ -1,0 +1,67 @@
+#include "foundation/frmParametros.h"
+
+#include <QLineEdit>
+
+#include "foundation/Estilo.h"
+#include "foundation/Ini.h"
+#include "foundation/UmaJanela.h"
+#include "foundation/ui_frmParametros.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/files/ProgramFolder.h"
+
+namespace quartela {
+namespace {
+
+const QString kSecao = QStringLiteral("Diretorio");
+const QString kFiltroBanco = QStringLiteral("Banco de dados Access (*.MDB)|*.MDB|");
+const QString kFiltroIni = QStringLiteral("Banco de dados Access (*.ini)|*.ini|");
+
+QString le(const QString& chave) {
+  return Le_ini(kSecao, chave, programFile(QStringLiteral("Config.ini")));
+}
+
+void grava(const QString& chave, const QLineEdit& caixa) {
+  Grava_ini(kSecao, chave, caixa.text(), programFile(QStringLiteral("Config.ini")));
+}
+
+// A cancelled dialog empties the box: that is how a path is taken out.
+void procura(QLineEdit& caixa, const QString& filtro) {
+  FileRequest pedido;
+  pedido.filter = filtro;
+  caixa.setText(Dialogs::openFile(pedido));
+}
+
+}  // namespace
+
+frmParametros::frmParametros() : ui_(std::make_unique<Ui::frmParametros>()) {
+  ui_->setupUi(this);
+  Estilo::prepara_janela(*this);
+  Estilo::destaca(*ui_->cmdGravar);
+  Estilo::botao_de_escape(*ui_->cmdCancelar);
+  ui_->Text1->setText(le(QStringLiteral("caminho")));
+  ui_->Text2->setText(le(QStringLiteral("caminho2")));
+  ui_->Text3->setText(le(QStringLiteral("number")));
+  connect(ui_->cmdCaminho, &QPushButton::clicked, this,
+          [this] { procura(*ui_->Text1, kFiltroBanco); });
+  connect(ui_->Command1, &QPushButton::clicked, this,
+          [this] { procura(*ui_->Text2, kFiltroBanco); });
+  connect(ui_->Command2, &QPushButton::clicked, this, [this] { procura(*ui_->Text3, kFiltroIni); });
+  connect(ui_->cmdGravar, &QPushButton::clicked, this, &frmParametros::cmdGravar_click);
+  connect(ui_->cmdCancelar, &QPushButton::clicked, this, &frmParametros::close);
+}
+
+frmParametros::~frmParametros() = default;
+
+// The paths are not tested here; they take effect at the next login.
+void frmParametros::cmdGravar_click() {
+  grava(QStringLiteral("caminho"), *ui_->Text1);
+  grava(QStringLiteral("caminho2"), *ui_->Text2);
+  grava(QStringLiteral("number"), *ui_->Text3);
+  close();
+}
+
+void mostra_frmParametros() {
+  UmaJanela<frmParametros>::mostra();
+}
+
+}  // namespace quartela

@@ -1,0 +1,31 @@
+// The paths of the database files and of the counter file; reachable before the login, so that they
+// can be mended while no database can be opened.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+class QLineEdit;
+
+namespace quartela {
+
+namespace Ui {
+class frmParametros;
+}
+
+class frmParametros : public QDialog {
+  Q_OBJECT
+
+ public:
+  frmParametros();
+  ~frmParametros() override;
+
+ private:
+  void cmdGravar_click();
+
+  std::unique_ptr<Ui::frmParametros> ui_;
+};
+
+void mostra_frmParametros();
+
+}  // namespace quartela

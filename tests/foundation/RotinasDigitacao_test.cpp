@@ -1,0 +1,172 @@
+#include <QLineEdit>
+
+#include "foundation/Rotinas.h"
+#include "tests/support/TestMain.h"
+
+using namespace quartela;
+
+class RotinasDigitacaoTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void dateKeys_data();
+  void dateKeys();
+  void timeKeys_data();
+  void timeKeys();
+  void typedDate();
+  void typedTime();
+  void backspaceInTypedTime();
+  void replacesSlashes_data();
+  void replacesSlashes();
+  void editingInTheMiddleKeepsTheSlashes();
+  void filterSeesOnlyWhatIsTyped();
+  void filterMayChangeTheKey();
+};
+
+void RotinasDigitacaoTest::dateKeys_data() {
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<int>("key");
+  QTest::addColumn<QString>("textAfter");
+  QTest::addColumn<int>("keyAfter");
+  QTest::newRow("first digit") << "" << int('1') << "" << int('1');
+  QTest::newRow("day done") << "21" << int('1') << "21/" << int('1');
+  QTest::newRow("month done") << "21/11" << int('0') << "21/11/" << int('0');
+  QTest::newRow("9 passes") << "2" << int('9') << "2" << int('9');
+  QTest::newRow("colon, the code behind 9") << "2" << int(':') << "2" << 0;
+  QTest::newRow("slash, the code before 0") << "21" << int('/') << "21" << 0;
+  QTest::newRow("letter") << "21" << int('a') << "21" << 0;
+  QTest::newRow("backspace") << "21" << 8 << "21" << 8;
+  QTest::newRow("backspace behind the month") << "21/11" << 8 << "21/11" << 8;
+  QTest::newRow("beyond") << "21/11/2014" << int('5') << "21/11/2014" << int('5');
+}
+
+void RotinasDigitacaoTest::dateKeys() {
+  QFETCH(QString, text);
+  QFETCH(int, key);
+  QFETCH(QString, textAfter);
+  QFETCH(int, keyAfter);
+  QLineEdit box(text);
+  box.setCursorPosition(0);
+  Mascara_data(box, key);
+  QCOMPARE(box.text(), textAfter);
+  QCOMPARE(key, keyAfter);
+  QCOMPARE(box.cursorPosition(), text == textAfter ? 0 : static_cast<int>(textAfter.size()));
+}
+
+void RotinasDigitacaoTest::timeKeys_data() {
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<int>("key");
+  QTest::addColumn<QString>("textAfter");
+  QTest::addColumn<int>("keyAfter");
+  QTest::newRow("first digit") << "" << int('1') << "" << int('1');
+  QTest::newRow("hours done") << "14" << int('3') << "14:" << int('3');
+  QTest::newRow("backspace sets the colon too") << "14" << 8 << "14:" << 8;
+  QTest::newRow("backspace elsewhere") << "14:3" << 8 << "14:3" << 8;
+  QTest::newRow("letter") << "14" << int('x') << "14" << 0;
+  QTest::newRow("colon") << "14" << int(':') << "14" << 0;
+  QTest::newRow("code 5 is swallowed") << "14" << 5 << "14" << 0;
+}
+
+void RotinasDigitacaoTest::timeKeys() {
+  QFETCH(QString, text);
+  QFETCH(int, key);
+  QFETCH(QString, textAfter);
+  QFETCH(int, keyAfter);
+  QLineEdit box(text);
+  Mascara_hora(box, key);
+  QCOMPARE(box.text(), textAfter);
+  QCOMPARE(key, keyAfter);
+}
+
+void RotinasDigitacaoTest::typedDate() {
+  QLineEdit box;
+  Filtra_teclas(box, Mascara_data);
+  QTest::keyClicks(&box, "21x11.2014");
+  QCOMPARE(box.text(), "21/11/2014");
+  QTest::keyClick(&box, Qt::Key_Backspace);
+  QCOMPARE(box.text(), "21/11/201");
+}
+
+void RotinasDigitacaoTest::typedTime() {
+  QLineEdit box;
+  Filtra_teclas(box, Mascara_hora);
+  QTest::keyClicks(&box, "1430");
+  QCOMPARE(box.text(), "14:30");
+}
+
+void RotinasDigitacaoTest::backspaceInTypedTime() {
+  QLineEdit box;
+  Filtra_teclas(box, Mascara_hora);
+  QTest::keyClicks(&box, "14");
+  QTest::keyClick(&box, Qt::Key_Backspace);
+  QCOMPARE(box.text(), "14");
+}
+
+void RotinasDigitacaoTest::replacesSlashes_data() {
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<int>("caret");
+  QTest::addColumn<QString>("textAfter");
+  QTest::addColumn<int>("caretAfter");
+  QTest::newRow("empty") << "" << 0 << "" << 0;
+  QTest::newRow("two digits") << "21" << 2 << "21" << 2;
+  QTest::newRow("slash too many") << "21/" << 3 << "21" << 2;
+  QTest::newRow("third digit") << "211" << 3 << "21/1" << 4;
+  QTest::newRow("four digits") << "2111" << 4 << "21/11" << 4;
+  QTest::newRow("fifth digit") << "21/112" << 6 << "21/11/2" << 7;
+  QTest::newRow("eight digits") << "21112014" << 8 << "21/11/2014" << 8;
+  QTest::newRow("nine digits") << "211120149" << 9 << "21/11/2014" << 9;
+  QTest::newRow("blanks around") << " 2111 " << 1 << "21/11" << 1;
+  QTest::newRow("slashes in wrong places") << "2/1/112014" << 5 << "21/11/2014" << 5;
+}
+
+void RotinasDigitacaoTest::replacesSlashes() {
+  QFETCH(QString, text);
+  QFETCH(int, caret);
+  QFETCH(QString, textAfter);
+  QFETCH(int, caretAfter);
+  QLineEdit box(text);
+  box.setCursorPosition(caret);
+  Formata_data(box);
+  QCOMPARE(box.text(), textAfter);
+  QCOMPARE(box.cursorPosition(), caretAfter);
+}
+
+void RotinasDigitacaoTest::editingInTheMiddleKeepsTheSlashes() {
+  QLineEdit box;
+  connect(&box, &QLineEdit::textChanged, &box, [&box] { Formata_data(box); });
+  QTest::keyClicks(&box, "21112014");
+  QCOMPARE(box.text(), "21/11/2014");
+  box.setCursorPosition(1);
+  QTest::keyClick(&box, Qt::Key_Delete);
+  QCOMPARE(box.text(), "21/12/014");
+  QCOMPARE(box.cursorPosition(), 1);
+  QTest::keyClicks(&box, "1");
+  QCOMPARE(box.text(), "21/11/2014");
+  QCOMPARE(box.cursorPosition(), 2);
+}
+
+void RotinasDigitacaoTest::filterSeesOnlyWhatIsTyped() {
+  QLineEdit box;
+  QList<int> seen;
+  Filtra_teclas(box, [&seen](QLineEdit&, int& key) { seen.append(key); });
+  QTest::keyClicks(&box, "a1");
+  QTest::keyClick(&box, Qt::Key_Backspace);
+  for (const Qt::Key key :
+       {Qt::Key_Left, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Escape, Qt::Key_F4}) {
+    QTest::keyClick(&box, key);
+  }
+  QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
+  QCOMPARE(seen, (QList<int>{'a', '1', 8}));
+  box.setReadOnly(true);
+  QTest::keyClicks(&box, "2");
+  QCOMPARE(seen.size(), 3);
+}
+
+void RotinasDigitacaoTest::filterMayChangeTheKey() {
+  QLineEdit box;
+  Filtra_teclas(box, [](QLineEdit&, int& key) { key = key == 'a' ? 'A' : key; });
+  QTest::keyClicks(&box, "bab");
+  QCOMPARE(box.text(), "bAb");
+}
+
+QUARTELA_TEST_MAIN(RotinasDigitacaoTest)
+#include "RotinasDigitacao_test.moc"
