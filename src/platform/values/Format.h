@@ -4,11 +4,14 @@
 // Number formats: 0 a digit or zero, # a digit or nothing, "," between digits the thousands groups,
 // "." the decimal comma, \x the character x itself, other characters (the "/" among them) as they
 // stand, "a;b" a second section for negative numbers. Rounded half away from zero.
-// Date formats: d dd, M MM MMMM, yyyy (any case), h hh, mm minutes behind an hour, ss; "/" and ":"
-// as they stand. Month names are lower case ("março").
+// Date formats: d dd, M MM MMMM, yy yyyy (any case), h hh, mm minutes behind an hour, ss; "/" and
+// ":" as they stand. Month names are lower case ("março").
 //
-// Null gives the empty text. A text that is no number (or no date, for a date format) comes out
-// unchanged.
+// Texts are read as Convert reads them. A number format shows a date by its serial number, a date
+// format a number as the date of that serial. What rounds to zero has no minus. Null gives the
+// empty text. A text that is no number (or no date, for a date format), a bool, and a number
+// outside of the calendar come out as Convert::toText gives them. Error 6 for a number that is not
+// finite.
 #pragma once
 
 #include <QString>

@@ -22,6 +22,7 @@ constexpr std::array kEntries{
     Entry{ErrorNumber::PathFileAccess, "Não foi possível ler ou gravar o arquivo."},
     Entry{ErrorNumber::PathNotFound, "A pasta não foi encontrada."},
     Entry{ErrorNumber::InvalidPicture, "O arquivo de imagem ou animação está com defeito."},
+    Entry{ErrorNumber::PrinterFailure, "Não foi possível imprimir. Confira a impressora."},
     Entry{ErrorNumber::CurrentRowMissing,
           "Não há registro atual. O registro pode ter sido excluído por outro programa."},
     Entry{ErrorNumber::DuplicateKey, "Já existe um registro com este número."},

@@ -20,6 +20,7 @@ enum class ErrorNumber : int {
   PathFileAccess = 75,
   PathNotFound = 76,
   InvalidPicture = 481,
+  PrinterFailure = 482,
   CurrentRowMissing = 3021,
   DuplicateKey = 3022,
   DatabaseNotFound = 3024,
