@@ -1,5 +1,6 @@
 #include "records/Principal.h"
 
+#include "platform/controls/ListView.h"
 #include "records/cTodos.h"
 
 namespace quartela {
@@ -24,6 +25,13 @@ void Lista_principal(std::int16_t codigo) {
   if (lista_registrada != nullptr && barra_registrada != nullptr) {
     cTodos::compartilhada().Lista_Movimento(*lista_registrada, codigo, *barra_registrada);
   }
+}
+
+QString Subitem_principal(int n) {
+  if (lista_registrada == nullptr) {
+    return {};
+  }
+  return lista_registrada->subItem(lista_registrada->selectedRow(), n);
 }
 
 }  // namespace quartela

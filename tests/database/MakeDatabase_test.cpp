@@ -18,6 +18,7 @@ class MakeDatabaseTest : public QObject {
   void empty();
   void demonstration();
   void sameArgumentsSameRows();
+  void lastNumber();
   void existingFileNeedsReplace();
   void wrongArguments_data();
   void wrongArguments();
@@ -27,6 +28,7 @@ class MakeDatabaseTest : public QObject {
   int run(const QStringList& arguments);
 
   std::unique_ptr<QTemporaryDir> folder_;
+  QString printed_;
   QString errors_;
 };
 
@@ -39,6 +41,7 @@ int MakeDatabaseTest::run(const QStringList& arguments) {
   QProcess process;
   process.start(QStringLiteral(QUARTELA_BINARY_DIR "/bin/make_database"), arguments);
   process.waitForFinished();
+  printed_ = QString::fromUtf8(process.readAllStandardOutput());
   errors_ = QString::fromUtf8(process.readAllStandardError());
   return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }
@@ -65,6 +68,20 @@ void MakeDatabaseTest::sameArgumentsSameRows() {
   QCOMPARE(run(QStringList{"--demonstration", file("a.mdb")} + rest), 0);
   QCOMPARE(run(QStringList{"--demonstration", file("b.mdb")} + rest), 0);
   QCOMPARE(PlainDatabase(file("a.mdb")).contentHash(), PlainDatabase(file("b.mdb")).contentHash());
+}
+
+void MakeDatabaseTest::lastNumber() {
+  const QString path = file("a.mdb");
+  QCOMPARE(run({"--demonstration", path, "--processes", "50", "--today", "2014-11-21"}), 0);
+  QCOMPARE(run({"--last-number", path, "--today", "2014-12-31"}), 0);
+  const int last = PlainDatabase(path).number(
+      "SELECT max(SEQ / 100) FROM Requisicao WHERE DATA >= '2014-01-01 00:00:00'");
+  QVERIFY(last > 0);
+  QCOMPARE(printed_, QString::number(last) + "\n");
+  QCOMPARE(run({"--last-number", path, "--today", "2030-01-01"}), 0);
+  QCOMPARE(printed_, QString("0\n"));
+  QCOMPARE(run({"--last-number", file("missing.mdb")}), 1);
+  QVERIFY(errors_.startsWith("make_database: 3024"));
 }
 
 void MakeDatabaseTest::existingFileNeedsReplace() {

@@ -2,10 +2,13 @@
 // an open advance.
 #include "records/cRequisicao.h"
 
+#include <sqlite3.h>
+
 #include <QtTest>
 
 #include "foundation/Banco.h"
 #include "platform/controls/ScreenPointer.h"
+#include "platform/database/engines/sqlite/Session.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
@@ -158,6 +161,36 @@ class cRequisicaoTest : public QObject {
     QCOMPARE(office_->ask("SELECT count(*) FROM Requisicao"), QStringLiteral("1"));
   }
 
+  void savingWhileAnotherProgramWritesIsToldAndWorksAfterwards() {
+    Connection other;
+    other.open(QStringLiteral("Data Source=") + office_->database());
+    Recordset begun;
+    begun.open(QStringLiteral("Requisicao"), other, CursorType::Static, LockType::Pessimistic);
+    begun.addNew();
+    begun.setField(u"SEQ", 214);
+    test::ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saveFailure(ErrorNumber::RowLocked, test::kAnything));
+    QVERIFY(!sample(114).Save_req(1));
+    begun.update();
+    saveQuietly(sample(114));
+    QCOMPARE(office_->ask("SELECT count(*) FROM Requisicao"), QStringLiteral("2"));
+  }
+
+  void aFullDiskIsToldAndNothingIsHalfWritten() {
+    cRequisicao requisition = sample(114);
+    requisition.Justificativa = QStringLiteral("Despesas miúdas. ").repeated(2000);
+    allowGrowth(false);
+    test::ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saveFailure(ErrorNumber::DiskFull, test::kAnything));
+    QVERIFY(!requisition.Save_req(1));
+    QCOMPARE(office_->ask("SELECT count(*) FROM Requisicao"), QStringLiteral("0"));
+    allowGrowth(true);
+    saveQuietly(requisition);
+    QCOMPARE(office_->ask("PRAGMA integrity_check"), QStringLiteral("ok"));
+  }
+
   void loadsEveryProperty() {
     saveQuietly(sample(114));
     cRequisicao loaded;
@@ -263,6 +296,12 @@ class cRequisicaoTest : public QObject {
   }
 
  private:
+  // Without growth the file takes no page more than it has now, as on a full disk.
+  static void allowGrowth(bool allow) {
+    const char* const sql = allow ? "PRAGMA max_page_count = 1073741823" : "PRAGMA max_page_count = 1";
+    QCOMPARE(sqlite3_exec(Conexao->session().handle(), sql, nullptr, nullptr, nullptr), SQLITE_OK);
+  }
+
   std::unique_ptr<test::Office> office_;
 };
 

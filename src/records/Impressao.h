@@ -1,0 +1,38 @@
+// The way from a screen to a printed document. The screens stand below the reports: each report
+// registers what prints it, and a screen hands over a request with all that the report cannot read
+// for itself.
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <functional>
+
+namespace quartela {
+
+enum class Relatorio {
+  Requisicao2,  // the requisition form; `comando` gives its one row
+  Guia,         // the collection slip; it has fields only
+  PrestContas,  // the accountability; `comando` gives its notes
+};
+
+struct PedidoImpressao {
+  Relatorio relatorio;
+  QString comando;                // the statement of the report's data; empty for none
+  bool exibe = true;              // show it first; else print, after the system's print dialog
+  QMap<QString, QString> campos;  // the texts of the report's elements, by their names ("Field1")
+};
+
+using Imprime = std::function<void(const PedidoImpressao&)>;
+
+// `imprime` serves that report from now on; an empty function takes it back.
+void registra_impressao(Relatorio relatorio, Imprime imprime);
+
+// Hands the request over; without a registered report nothing happens. Raises what the report
+// raises.
+void imprime(const PedidoImpressao& pedido);
+
+// Whether the settings (key "valor2" of section "Requisicao") let a report be shown before it is
+// printed; only "0" sends it to the printer at once.
+bool Exibe_antes();
+
+}  // namespace quartela

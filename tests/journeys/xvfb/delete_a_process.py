@@ -1,0 +1,167 @@
+#!/usr/bin/env python3
+"""The program itself, in a real window under Xvfb, driven by real mouse and keys: login, alert, filters,
+the find dialog, a deletion, the end. What it did is read from the database file afterwards.
+
+Usage: delete_a_process.py BUILD SCREENSHOTS
+"""
+import os
+import shutil
+import sqlite3
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+TIMEOUT = 60
+SOURCE = Path(__file__).resolve().parents[3]
+
+
+class Display:
+    """An Xvfb with a window manager; ends both when it is left."""
+
+    def __enter__(self):
+        read, write = os.pipe()
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
+            pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            self.name = ":" + pipe.readline().strip()
+        self.environment = dict(os.environ, DISPLAY=self.name, QT_QPA_PLATFORM="xcb")
+        self.manager = subprocess.Popen(["openbox"], env=self.environment, stderr=subprocess.DEVNULL)
+        return self
+
+    def __exit__(self, *_):
+        for process in (self.manager, self.server):
+            process.terminate()
+            process.wait()
+
+    def xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *map(str, arguments)], env=self.environment,
+                              capture_output=True, text=True).stdout.strip()
+
+    def window(self, title):
+        """Waits for a visible window of that very title."""
+        return wait(lambda: self.xdotool("search", "--onlyvisible", "--name", f"^{title}$"),
+                    f"the window {title!r}").splitlines()[-1]
+
+    def no_window(self, title):
+        wait(lambda: not self.xdotool("search", "--onlyvisible", "--name", f"^{title}$"),
+             f"the window {title!r} to close")
+
+    def focus(self, title):
+        window = self.window(title)
+        self.xdotool("windowactivate", "--sync", window)
+        return window
+
+    def key(self, *keys):
+        self.xdotool("key", "--delay", 60, *keys)
+
+    def type(self, text):
+        self.xdotool("type", "--delay", 40, text)
+
+    def click(self, window, x, y):
+        self.xdotool("mousemove", "--window", window, x, y)
+        time.sleep(0.2)
+        self.xdotool("click", 1)
+
+
+def wait(condition, what):
+    end = time.monotonic() + TIMEOUT
+    while time.monotonic() < end:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.1)
+    raise SystemExit(f"never came: {what}")
+
+
+def rows(database, sql):
+    connection = sqlite3.connect(f"file:{database}?mode=ro", uri=True)
+    try:
+        return [row[0] for row in connection.execute(sql)]
+    finally:
+        connection.close()
+
+
+def log_in(display):
+    display.focus("Login")
+    display.type("financas")
+    display.key("Tab", "Down", "Return")
+
+
+def find_by_number(display, shown):
+    display.focus("Localizar")
+    display.key("shift+Tab", "Down", "Tab")
+    display.type(shown)
+    display.key("Return")
+    display.no_window("Localizar")
+
+
+def delete_first_row(display, main):
+    display.click(main, 150, 155)
+    display.key("Delete")
+    display.focus("Aviso")
+    display.key("Return")
+    time.sleep(1.5)
+    display.focus("Aviso")
+    display.key("Return")
+    display.no_window("Aviso")
+
+
+def play(display, folder, pictures):
+    def picture(name):
+        subprocess.run(["import", "-window", "root", str(pictures / f"{name}.png")],
+                       env=display.environment, check=False)
+
+    database = folder / "Demonstracao.mdb"
+    victim = rows(database, "SELECT max(SEQ) FROM Requisicao WHERE SEQ % 100 = "
+                            "(SELECT SEQ % 100 FROM Requisicao ORDER BY DATA DESC LIMIT 1)")[0]
+    before = rows(database, "SELECT count(*) FROM Requisicao")[0]
+    program = subprocess.Popen([str(folder / "quartela")], env=display.environment)
+    try:
+        log_in(display)
+        main = display.window("Quartela 2014")
+        display.focus("A L E R T A")
+        picture("1-alert")
+        display.key("Return")
+        display.no_window("A L E R T A")
+        for x in (438, 508, 571, 626, 677):
+            display.click(main, x - 43, 105 - 51)
+            time.sleep(0.4)
+        picture("2-filters")
+        display.click(main, 365 - 43, 105 - 51)
+        find_by_number(display, f"{victim // 100:04}/{victim % 100:02}")
+        picture("3-found")
+        delete_first_row(display, main)
+        picture("4-deleted")
+        display.focus("Quartela 2014")
+        display.key("alt+F4")
+        if program.wait(TIMEOUT) != 0:
+            raise SystemExit(f"the program ended with {program.returncode}")
+    finally:
+        program.kill()
+    gone = rows(database, f"SELECT count(*) FROM Requisicao WHERE SEQ = {victim}")[0] == 0
+    after = rows(database, "SELECT count(*) FROM Requisicao")[0]
+    if not gone or after != before - 1:
+        raise SystemExit(f"process {victim}: gone {gone}, {before} processes before, {after} after")
+    left = sorted(path.name for path in folder.glob("Demonstracao*"))
+    if left != ["Demonstracao.mdb"]:
+        raise SystemExit(f"files left behind: {left}")
+
+
+def main():
+    build, pictures = Path(sys.argv[1]).resolve(), Path(sys.argv[2])
+    pictures.mkdir(parents=True, exist_ok=True)
+    with tempfile.TemporaryDirectory() as folder, Display() as display:
+        subprocess.run([str(SOURCE / "packaging" / "lay-out"), str(build), folder], check=True)
+        play(display, Path(folder), pictures)
+    print("the process was deleted through the real window")
+
+
+if __name__ == "__main__":
+    for tool in ("Xvfb", "xdotool", "openbox", "import"):
+        if shutil.which(tool) is None:
+            raise SystemExit(f"{tool} is not installed")
+    main()
