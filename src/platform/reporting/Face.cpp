@@ -1,0 +1,68 @@
+#include "platform/reporting/Face.h"
+
+#include <cmath>
+#include <memory>
+#include <vector>
+
+namespace quartela::reporting {
+namespace {
+
+QFont fontOf(const FontSpec& spec) {
+  QFont font(spec.family);
+  font.setPixelSize(static_cast<int>(std::lround(spec.points * kTwipsPerPoint)));
+  font.setBold(spec.bold);
+  font.setItalic(spec.italic);
+  font.setUnderline(spec.underline);
+  font.setKerning(false);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  return font;
+}
+
+// Pairs that a face may draw as one letter of another width.
+bool joinsLetters(QChar first, QChar second) {
+  return first == QLatin1Char('f') &&
+         (second == QLatin1Char('f') || second == QLatin1Char('i') || second == QLatin1Char('l'));
+}
+
+}  // namespace
+
+const Face& Face::of(const FontSpec& spec) {
+  struct Entry {
+    FontSpec spec;
+    std::unique_ptr<const Face> face;
+  };
+  static std::vector<Entry> faces;
+  for (const Entry& entry : faces) {
+    if (entry.spec == spec) {
+      return *entry.face;
+    }
+  }
+  faces.push_back({spec, std::unique_ptr<const Face>(new Face(spec))});
+  return *faces.back().face;
+}
+
+Face::Face(const FontSpec& spec)
+    : font_(fontOf(spec)),
+      metrics_(font_),
+      ascent_(metrics_.ascent()),
+      lineHeight_(metrics_.ascent() + metrics_.descent()) {
+  for (std::size_t code = 0; code < advance_.size(); ++code) {
+    advance_[code] =
+        static_cast<float>(metrics_.horizontalAdvance(QChar(static_cast<char16_t>(code))));
+  }
+}
+
+double Face::width(QStringView text) const {
+  double width = 0;
+  QChar before;
+  for (const QChar letter : text) {
+    if (letter.unicode() >= kTable || joinsLetters(before, letter)) {
+      return metrics_.horizontalAdvance(text.toString());
+    }
+    width += static_cast<double>(advance_[letter.unicode()]);
+    before = letter;
+  }
+  return width;
+}
+
+}  // namespace quartela::reporting

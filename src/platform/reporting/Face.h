@@ -1,0 +1,42 @@
+// A font with its measures in twips, the same on every screen and printer.
+//
+// The font is set up at one pixel a twip and without hinting and kerning, so that measures grow
+// evenly with the size and a text's width is the sum of its letters'. To be painted with a painter
+// whose unit is a twip.
+#pragma once
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QStringView>
+#include <array>
+
+#include "platform/reporting/Layout.h"
+
+namespace quartela::reporting {
+
+class Face {
+ public:
+  // The face of the spec, made at the first call and kept as long as the program. For the thread of
+  // the windows only.
+  static const Face& of(const FontSpec& spec);
+
+  const QFont& font() const { return font_; }
+  double ascent() const { return ascent_; }
+  double lineHeight() const { return lineHeight_; }
+  double width(QStringView text) const;
+
+ private:
+  // Latin letters, their accents and the common signs have a table; the rest is measured as a
+  // whole.
+  static constexpr std::size_t kTable = 0x180;
+
+  explicit Face(const FontSpec& spec);
+
+  QFont font_;
+  QFontMetricsF metrics_;
+  double ascent_ = 0;
+  double lineHeight_ = 0;
+  std::array<float, kTable> advance_{};
+};
+
+}  // namespace quartela::reporting
