@@ -1,0 +1,80 @@
+#include "masterdata/ItemCadastro.h"
+
+#include <QMenu>
+
+#include "masterdata/Evento.h"
+#include "platform/controls/ListView.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/values/Convert.h"
+
+namespace quartela {
+namespace {
+
+const QString kAviso = QStringLiteral("Aviso");
+
+}  // namespace
+
+ItemCadastro::ItemCadastro(ListView& lista, const QString& texto_excluir,
+                           std::function<void(std::int16_t)> exclui,
+                           std::function<void()> recarrega)
+    : QObject(&lista),
+      lista_(lista),
+      exclui_(std::move(exclui)),
+      recarrega_(std::move(recarrega)),
+      menu_(new QMenu(&lista)) {
+  const auto exclusao = Evento([this] { exclui_item(); });
+  menu_->setObjectName(QStringLiteral("mnuopcoes"));
+  menu_->addAction(texto_excluir, this, exclusao)->setObjectName(QStringLiteral("mnuexcluir"));
+  connect(&lista, &ListView::itemClicked, this, &ItemCadastro::clica);
+  connect(&lista, &ListView::contextMenuRequested, this, &ItemCadastro::mostra_menu);
+  connect(&lista, &ListView::itemActivated, this, [this](int linha) {
+    clica(linha);
+    emit ativado();
+  });
+  connect(&lista, &ListView::deleteRequested, this, [this, exclusao](int linha) {
+    clica(linha);
+    exclusao();
+  });
+}
+
+bool ItemCadastro::tem_item() const {
+  if (tag_.isEmpty()) {
+    Dialogs::stop(QStringLiteral("Informe um item !!!"), kAviso);
+  }
+  return !tag_.isEmpty();
+}
+
+QString ItemCadastro::coluna(int n) const {
+  const int linha = lista_.selectedRow();
+  return linha < 0 ? QString() : lista_.subItem(linha, n);
+}
+
+bool ItemCadastro::marcada() const {
+  const int linha = lista_.selectedRow();
+  return linha >= 0 && lista_.isChecked(linha);
+}
+
+void ItemCadastro::clica(int linha) {
+  tag_ = lista_.text(linha);
+}
+
+void ItemCadastro::exclui_item() {
+  if (!tem_item() ||
+      !Dialogs::confirm(
+          tag_ + QStringLiteral(" - ") + QStringLiteral("Confirma exclusão deste item?"), kAviso)) {
+    return;
+  }
+  exclui_(Convert::toI16(tag_));
+  recarrega_();
+}
+
+// The menu key stands for a click on the current row, which then shows as selected.
+void ItemCadastro::mostra_menu(int linha, const QPoint& posicao) {
+  if (linha >= 0) {
+    lista_.selectRow(linha);
+    clica(linha);
+  }
+  menu_->popup(posicao);
+}
+
+}  // namespace quartela

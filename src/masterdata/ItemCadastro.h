@@ -1,0 +1,51 @@
+// The row of a list that the operator last clicked, and what can be done with it: the pop-up menu
+// "Excluir item" and the questions before a command.
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <cstdint>
+#include <functional>
+
+class QMenu;
+class QPoint;
+
+namespace quartela {
+
+class ListView;
+
+class ItemCadastro : public QObject {
+  Q_OBJECT
+
+ public:
+  // `lista` is not owned. `exclui` deletes the row of a key, `recarrega` fills the list anew.
+  ItemCadastro(ListView& lista, const QString& texto_excluir,
+               std::function<void(std::int16_t chave)> exclui, std::function<void()> recarrega);
+
+  // The key text of the row last clicked; nothing clears it, so it outlives its row.
+  const QString& Tag() const { return tag_; }
+  // Whether a row was clicked; otherwise the operator is told.
+  bool tem_item() const;
+
+  // A sub-item of the list's current row; empty without one.
+  QString coluna(int n) const;
+  // The check box of the list's current row.
+  bool marcada() const;
+
+ signals:
+  // Enter or a double click on a row, which counts as clicked then.
+  void ativado();
+
+ private:
+  void clica(int linha);
+  void exclui_item();
+  void mostra_menu(int linha, const QPoint& posicao);
+
+  ListView& lista_;
+  std::function<void(std::int16_t)> exclui_;
+  std::function<void()> recarrega_;
+  QString tag_;
+  QMenu* menu_;
+};
+
+}  // namespace quartela

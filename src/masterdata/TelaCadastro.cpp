@@ -1,0 +1,243 @@
+#include "masterdata/TelaCadastro.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include "foundation/Estilo.h"
+#include "foundation/Rotinas.h"
+#include "masterdata/Escape.h"
+#include "masterdata/Evento.h"
+#include "masterdata/ItemCadastro.h"
+#include "platform/controls/ListView.h"
+#include "platform/controls/TwoPageTab.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/values/Convert.h"
+#include "records/Gravacao.h"
+
+namespace quartela {
+
+std::int16_t Operacao = 0;
+
+namespace {
+
+constexpr int kConsulta = 0;
+constexpr int kCadastro = 1;
+constexpr std::int16_t kListaTodos = 0;
+constexpr std::int16_t kListaProcurados = 1;
+constexpr int kMargem = 12;
+constexpr int kAlturaCampo = 28;
+// A label with an underlined letter is drawn without kerning, a little wider than it measures.
+constexpr int kFolgaRotulo = 2;
+const QString kAviso = QStringLiteral("Aviso");
+
+QPushButton* novo_botao(QWidget* dono, const BotaoCadastro& botao) {
+  auto* const novo = new QPushButton(botao.texto, dono);
+  novo->setObjectName(botao.nome);
+  novo->setMinimumSize(96, 30);
+  novo->setAutoDefault(false);
+  return novo;
+}
+
+QHBoxLayout* linha_de_botoes(const QList<QPushButton*>& botoes) {
+  auto* const linha = new QHBoxLayout;
+  linha->setSpacing(8);
+  linha->addStretch();
+  for (QPushButton* botao : botoes) {
+    linha->addWidget(botao);
+  }
+  return linha;
+}
+
+QWidget* nova_pagina(QWidget* dono, QVBoxLayout*& colunas) {
+  auto* const pagina = new QWidget(dono);
+  colunas = new QVBoxLayout(pagina);
+  colunas->setContentsMargins(kMargem, kMargem, kMargem, kMargem);
+  colunas->setSpacing(kMargem);
+  return pagina;
+}
+
+}  // namespace
+
+TelaCadastro::TelaCadastro(QWidget& janela, QWidget& campos, QLineEdit& ordem,
+                           const AparenciaCadastro& aparencia, PassosCadastro passos)
+    : QObject(&janela),
+      janela_(janela),
+      ordem_(ordem),
+      passos_(std::move(passos)),
+      obrigatorios_(aparencia.obrigatorios) {
+  Estilo::prepara_janela(janela);
+  janela.setWindowFlag(Qt::WindowStaysOnTopHint);
+  abas_ = new TwoPageTab(&janela);
+  abas_->setObjectName(QStringLiteral("SSTab1"));
+  // The other tab is always disabled: there is nothing to do on the tabs themselves.
+  abas_->setFocusPolicy(Qt::NoFocus);
+  abas_->tabBar()->setFocusPolicy(Qt::NoFocus);
+  janela.layout()->removeWidget(&campos);
+  abas_->addTab(monta_consulta(aparencia), QStringLiteral("Consulta"));
+  abas_->addTab(monta_cadastro(campos, aparencia), QStringLiteral("Cadastro"));
+  janela.layout()->addWidget(abas_);
+  janela.layout()->addWidget(monta_rodape(aparencia));
+  liga();
+}
+
+QWidget* TelaCadastro::monta_rodape(const AparenciaCadastro& aparencia) {
+  auto* const rodape = new QFrame(&janela_);
+  rodape->setObjectName(QStringLiteral("Frame2"));
+  sair_ = novo_botao(rodape, aparencia.sair);
+  QHBoxLayout* const linha = linha_de_botoes({sair_});
+  linha->setContentsMargins(0, 0, 0, 0);
+  rodape->setLayout(linha);
+  return rodape;
+}
+
+QWidget* TelaCadastro::monta_consulta(const AparenciaCadastro& aparencia) {
+  QVBoxLayout* colunas = nullptr;
+  QWidget* const pagina = nova_pagina(&janela_, colunas);
+  auto* const rotulo = new QLabel(aparencia.pesquisar_por, pagina);
+  rotulo->setObjectName(QStringLiteral("Label_0"));
+  pesquisa_ = new QLineEdit(pagina);
+  pesquisa_->setObjectName(QStringLiteral("txtpesquisa"));
+  pesquisa_->setAccessibleName(aparencia.pesquisar_por);
+  pesquisa_->setMinimumHeight(kAlturaCampo);
+  rotulo->setBuddy(pesquisa_);
+  procura_ = novo_botao(pagina, {QStringLiteral("cmdProcura"), QStringLiteral("&Procurar")});
+  auto* const procura = new QHBoxLayout;
+  procura->setSpacing(8);
+  procura->addWidget(rotulo);
+  procura->addWidget(pesquisa_, 1);
+  procura->addWidget(procura_);
+  colunas->addLayout(procura);
+
+  colunas->addWidget(monta_lista(pagina, aparencia), 1);
+  incluir_ = novo_botao(pagina, aparencia.incluir);
+  alterar_ = novo_botao(pagina, aparencia.alterar);
+  QHBoxLayout* const comandos = linha_de_botoes({incluir_, alterar_});
+  comandos->setObjectName(QStringLiteral("comandos_consulta"));
+  colunas->addLayout(comandos);
+  return pagina;
+}
+
+QWidget* TelaCadastro::monta_lista(QWidget* pagina, const AparenciaCadastro& aparencia) {
+  lista_ = new ListView(pagina);
+  lista_->setObjectName(QStringLiteral("ListView1"));
+  lista_->setAccessibleName(janela_.windowTitle());
+  lista_->setCheckBoxes(aparencia.marcas);
+  for (const ColunaCadastro& coluna : aparencia.colunas) {
+    lista_->addColumn(coluna.titulo, ColumnWidth::twips(coluna.largura));
+  }
+  item_ = new ItemCadastro(*lista_, aparencia.excluir, passos_.exclui,
+                           [this] { passos_.lista(*lista_, kListaTodos); });
+  return lista_;
+}
+
+QWidget* TelaCadastro::monta_cadastro(QWidget& campos, const AparenciaCadastro& aparencia) {
+  QVBoxLayout* colunas = nullptr;
+  QWidget* const pagina = nova_pagina(&janela_, colunas);
+  for (QLabel* rotulo : campos.findChildren<QLabel*>()) {
+    rotulo->setMinimumWidth(rotulo->sizeHint().width() + kFolgaRotulo);
+  }
+  colunas->addWidget(&campos);
+  auto* const nota =
+      new QLabel(QStringLiteral("( * ) Campos de preenchimento obrigatórios"), pagina);
+  nota->setObjectName(QStringLiteral("Label_4"));
+  colunas->addWidget(nota);
+  colunas->addStretch();
+  gravar_ = novo_botao(pagina, aparencia.gravar);
+  cancelar_ = novo_botao(pagina, aparencia.cancelar);
+  Estilo::destaca(*gravar_);
+  colunas->addLayout(linha_de_botoes({gravar_, cancelar_}));
+  return pagina;
+}
+
+void TelaCadastro::liga() {
+  const auto altera = Evento([this] { comeca_alteracao(); });
+  connect(procura_, &QPushButton::clicked, this, Evento([this] { pesquisa(); }));
+  connect(pesquisa_, &QLineEdit::returnPressed, procura_, &QPushButton::click);
+  connect(item_, &ItemCadastro::ativado, this, altera);
+  connect(incluir_, &QPushButton::clicked, this,
+          Evento([this] { comeca_inclusao(passos_.inclui); }));
+  connect(alterar_, &QPushButton::clicked, this, altera);
+  connect(cancelar_, &QPushButton::clicked, this, &TelaCadastro::cancela);
+  connect(gravar_, &QPushButton::clicked, this, Evento([this] { grava(); }));
+  connect(sair_, &QPushButton::clicked, &janela_, &QWidget::close);
+  Ao_escapar(janela_, [this] { escapa(); });
+}
+
+void TelaCadastro::pesquisa() {
+  passos_.procura(pesquisa_->text());
+  passos_.lista(*lista_, kListaProcurados);
+}
+
+QPushButton& TelaCadastro::acrescenta_botao(const BotaoCadastro& botao) {
+  QPushButton* const novo = novo_botao(alterar_->parentWidget(), botao);
+  alterar_->parentWidget()
+      ->findChild<QHBoxLayout*>(QStringLiteral("comandos_consulta"))
+      ->addWidget(novo);
+  QWidget::setTabOrder(alterar_, novo);
+  return *novo;
+}
+
+void TelaCadastro::carrega() {
+  passos_.lista(*lista_, kListaTodos);
+  abas_->setTabEnabled(kCadastro, false);
+  abas_->setCurrent(kConsulta);
+  pesquisa_->setFocus();
+}
+
+void TelaCadastro::comeca_inclusao(const std::function<void()>& preenche) {
+  Limpa_tela(*abas_->widget(kCadastro));
+  pesquisa_->clear();
+  ordem_.setText(kNumeracaoAutomatica);
+  preenche();
+  Operacao = kInclusao;
+  Troca_aba(*abas_);
+}
+
+void TelaCadastro::comeca_alteracao() {
+  if (!item_->tem_item()) {
+    return;
+  }
+  ordem_.setText(item_->Tag());
+  passos_.altera();
+  Operacao = kAlteracao;
+  Troca_aba(*abas_);
+}
+
+bool TelaCadastro::Salvar() {
+  if (Campos_vazios(*abas_->widget(kCadastro))) {
+    Dialogs::exclamation(obrigatorios_, kAviso);
+    return false;
+  }
+  if (ordem_.text() == kNumeracaoAutomatica) {
+    ordem_.setText(QStringLiteral("0"));
+  }
+  if (!passos_.salva(Convert::toI16(ordem_.text()))) {
+    return false;
+  }
+  Troca_aba(*abas_);
+  return true;
+}
+
+void TelaCadastro::grava() {
+  if (Salvar()) {
+    passos_.lista(*lista_, kListaTodos);
+    lista_->setFocus();
+  }
+}
+
+void TelaCadastro::cancela() {
+  Troca_aba(*abas_);
+  lista_->setFocus();
+}
+
+// Never more than one step back: what was typed stays in the fields.
+void TelaCadastro::escapa() {
+  (abas_->current() == kCadastro ? cancelar_ : sair_)->click();
+}
+
+}  // namespace quartela

@@ -1,0 +1,43 @@
+// The screen of the legal clauses: one page, where the enabled controls tell what is being done.
+#pragma once
+
+#include <QDialog>
+#include <cstdint>
+#include <memory>
+
+namespace quartela {
+
+namespace Ui {
+class frmLei;
+}
+class ItemCadastro;
+
+class frmLei : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmLei(QWidget* parent = nullptr);
+  ~frmLei() override;
+
+ private:
+  void monta_lista();
+  void liga();
+
+  void Combo1_DropDown();
+  void Combo1_Click(int indice);
+  void inclui();
+  void altera();
+  void cancela();
+  void grava();
+  void escapa();
+
+  void esvazia();
+  void edita(bool editando);
+  bool completo();
+  void salva();
+
+  std::unique_ptr<Ui::frmLei> ui_;
+  ItemCadastro* item_ = nullptr;
+};
+
+}  // namespace quartela
