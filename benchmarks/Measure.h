@@ -39,6 +39,8 @@ void benchDialect();
 void benchSave();
 void benchLike();
 void benchStart();
+void benchMainWindow();
+void benchMasterData();
 
 // Child modes of the start benchmark: show the window, leave at its first painting.
 int showLoginOnce(int argc, char** argv);

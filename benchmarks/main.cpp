@@ -19,5 +19,7 @@ int main(int argc, char** argv) {
   benchSave();
   benchLike();
   benchStart();
+  benchMainWindow();
+  benchMasterData();
   return 0;
 }

@@ -1,7 +1,7 @@
 #include "foundation/Leitura.h"
 
 #include <QCoreApplication>
-#include <QEventLoop>
+#include <QEvent>
 
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
@@ -47,8 +47,10 @@ void Lista_sob_trava(const QString& rotulo, const std::function<void()>& corpo) 
   });
 }
 
+// Timers wait as well: the alert's, say, would read through Tabela in the middle of a listing.
 void Cede_vez() {
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
 }
 
 }  // namespace quartela

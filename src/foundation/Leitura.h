@@ -17,8 +17,8 @@ void Le_tabela(const QString& comando, const std::function<void()>& linha);
 // an error goes to Erro_interno with `rotulo` once the pointer is back.
 void Lista_sob_trava(const QString& rotulo, const std::function<void()>& corpo);
 
-// Lets the window system draw what is waiting, once. Keys and clicks wait, so that no event of a screen
-// starts a second reading while Tabela is in use.
+// Lets the window system draw what is waiting, once. Keys, clicks and timers wait, so that no event of a
+// screen starts a second reading while Tabela is in use.
 void Cede_vez();
 
 }  // namespace quartela

@@ -12,6 +12,13 @@
 #include "foundation/Rotinas.h"
 #include "foundation/UmaJanela.h"
 #include "foundation/frmConfigura.h"
+#include "masterdata/frmDotacao.h"
+#include "masterdata/frmExecutor.h"
+#include "masterdata/frmLei.h"
+#include "masterdata/frmOrgao.h"
+#include "masterdata/frmTipoDespesa.h"
+#include "masterdata/frmTipos.h"
+#include "masterdata/frmTomador.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/OpenForms.h"
 #include "platform/controls/StatusBar.h"
@@ -21,6 +28,7 @@
 #include "records/Principal.h"
 #include "records/cRequisicao.h"
 #include "screens/frmAviso.h"
+#include "screens/frmCadastro.h"
 #include "screens/frmLocalizar.h"
 #include "shell/ComandosRibbon.h"
 #include "shell/Imagens.h"
@@ -59,11 +67,31 @@ QString texto(const char* utf8) {
   return QString::fromUtf8(utf8);
 }
 
+// Closes the window where it is open.
+template <typename Janela>
+bool estava_aberta() {
+  return FormAberto(QString::fromLatin1(Janela::staticMetaObject.className()).section(':', -1));
+}
+
 // The button of a window that is open closes it.
 template <typename Janela>
 void alterna() {
-  if (!FormAberto(QString::fromLatin1(Janela::staticMetaObject.className()).section(':', -1))) {
+  if (!estava_aberta<Janela>()) {
     UmaJanela<Janela>::mostra();
+  }
+}
+
+void inclui_processo() {
+  if (!estava_aberta<frmCadastro>()) {
+    ModoAlteracao = kInclui;
+    UmaJanela<frmCadastro>::mostra();
+  }
+}
+
+void altera_processo() {
+  if (!estava_aberta<frmCadastro>() && !Tag_principal.isEmpty()) {
+    ModoAlteracao = kAltera;
+    UmaJanela<frmCadastro>::mostra();
   }
 }
 
@@ -78,8 +106,9 @@ frmOficce::frmOficce(QWidget* parent)
   setObjectName(QStringLiteral("frmOficce"));
   setWindowTitle(QStringLiteral("Quartela 2014"));
   Estilo::prepara_janela(*this);
-  resize(1280, 680);
+  resize(1340, 690);
   setMinimumSize(640, 360);
+  OpenForms::setMainWindow(this);
   prepara_lista();
   prepara_barra();
   liga_eventos();
@@ -161,9 +190,17 @@ void frmOficce::Ribbon_ButtonClick(const QString& id) {
 
 const frmOficce::Comandos& frmOficce::comandos() {
   static const Comandos tabela{
+      {QStringLiteral("0"), [](frmOficce&) { inclui_processo(); }},
+      {QStringLiteral("1"), [](frmOficce&) { altera_processo(); }},
       {QStringLiteral("2"), [](frmOficce& janela) { janela.Exclui_processo(); }},
       {QStringLiteral("3"), [](frmOficce&) { mostra_frmAviso(); }},
       {QStringLiteral("4"), [](frmOficce&) { alterna<frmLocalizar>(); }},
+      {QStringLiteral("9"), [](frmOficce&) { alterna<frmExecutor>(); }},
+      {QStringLiteral("10"), [](frmOficce&) { alterna<frmTomador>(); }},
+      {QStringLiteral("11"), [](frmOficce&) { alterna<frmTipos>(); }},
+      {QStringLiteral("12"), [](frmOficce&) { alterna<frmTipoDespesa>(); }},
+      {QStringLiteral("13"), [](frmOficce&) { alterna<frmDotacao>(); }},
+      {QStringLiteral("25"), [](frmOficce&) { alterna<frmOrgao>(); }},
       {QStringLiteral("15"), [](frmOficce&) { mostra_frmConfigura(); }},
       {QStringLiteral("18"), [](frmOficce& janela) { janela.filtra(4); }},
       {QStringLiteral("19"), [](frmOficce& janela) { janela.filtra(2); }},
@@ -204,6 +241,8 @@ void frmOficce::mostra_menu(int, const QPoint& posicao) {
   menu.addAction(QStringLiteral("&Alterar requisição"), this,
                  [this] { Ribbon_ButtonClick(QStringLiteral("1")); });
   menu.addAction(QStringLiteral("&Excluir requisição"), this, &frmOficce::Exclui_processo);
+  menu.addSeparator();
+  menu.addAction(QStringLiteral("&Incisos"), this, [] { alterna<frmLei>(); });
   menu.exec(posicao);
 }
 

@@ -80,8 +80,9 @@ class frmOficceTest : public QObject {
     QCOMPARE(list().columnCount(), int(headers.size()));
     for (int n = 0; n < headers.size(); ++n) {
       QCOMPARE(list().model()->headerData(n, Qt::Horizontal).toString(), headers.at(n));
-      QCOMPARE(list().columnWidth(n),
-               ColumnWidth::hundredthsOfMillimetre(widths.at(n)).toPixels(list().logicalDpiX()));
+      const int width = ColumnWidth::hundredthsOfMillimetre(widths.at(n)).toPixels(list().logicalDpiX());
+      // The first column makes room for the row's icon beside its number.
+      QVERIFY(n == 0 ? list().columnWidth(n) >= width : list().columnWidth(n) == width);
     }
   }
 
@@ -158,10 +159,18 @@ class frmOficceTest : public QObject {
 
   void theAlertComesUpOnceByItself() {
     office_->run("UPDATE Adiantamento SET FECHAR_EM = '2014-11-21 00:00:00'");
-    QTRY_VERIFY(OpenForms::find(QStringLiteral("frmAviso")) != nullptr);
-    OpenForms::find(QStringLiteral("frmAviso"))->close();
+    int seen = 0;
+    QTimer operatorAtWork;
+    connect(&operatorAtWork, &QTimer::timeout, this, [&seen] {
+      if (QWidget* alert = OpenForms::find(QStringLiteral("frmAviso"))) {
+        ++seen;
+        alert->close();
+      }
+    });
+    operatorAtWork.start(50);
+    QTRY_COMPARE(seen, 1);
     QTest::qWait(1500);
-    QVERIFY(OpenForms::find(QStringLiteral("frmAviso")) == nullptr);
+    QCOMPARE(seen, 1);
   }
 
   void clickingARowRemembersItsNumber() {

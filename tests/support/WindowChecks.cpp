@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QtTest>
 
 namespace quartela::test {
@@ -66,7 +67,10 @@ QSize sizeOfText(const QWidget* widget) {
     return label->text().isEmpty() ? QSize() : label->minimumSizeHint();
   }
   const auto* button = qobject_cast<const QAbstractButton*>(widget);
-  if (!button || button->text().isEmpty()) {
+  const auto* tool = qobject_cast<const QToolButton*>(widget);
+  const bool picture =
+      tool && !tool->icon().isNull() && tool->toolButtonStyle() == Qt::ToolButtonIconOnly;
+  if (!button || picture || button->text().isEmpty()) {
     return {};
   }
   constexpr QSize kEdges(12, 6);

@@ -1,7 +1,6 @@
 #include "platform/controls/AviFile.h"
 
 #include <QFile>
-#include <QtEndian>
 #include <algorithm>
 
 #include "platform/values/RuntimeError.h"
@@ -35,10 +34,10 @@ class Stretch {
   QByteArray text(qsizetype at, qsizetype count) const {
     return bytes_.mid(part(at, count).begin_, count);
   }
-  quint32 u32(qsizetype at) const { return number<quint32>(at); }
-  quint16 u16(qsizetype at) const { return number<quint16>(at); }
-  qint32 i32(qsizetype at) const { return number<qint32>(at); }
-  quint8 u8(qsizetype at) const { return number<quint8>(at); }
+  quint32 u32(qsizetype at) const { return littleEndian(at, 4); }
+  quint16 u16(qsizetype at) const { return static_cast<quint16>(littleEndian(at, 2)); }
+  qint32 i32(qsizetype at) const { return static_cast<qint32>(u32(at)); }
+  quint8 u8(qsizetype at) const { return static_cast<quint8>(littleEndian(at, 1)); }
 
   Stretch part(qsizetype at, qsizetype count) const {
     if (at < 0 || count < 0 || at > length_ || count > length_ - at) {
@@ -48,10 +47,14 @@ class Stretch {
   }
 
  private:
-  template <typename T>
-  T number(qsizetype at) const {
-    const Stretch place = part(at, sizeof(T));
-    return qFromLittleEndian<T>(bytes_.constData() + place.begin_);
+  // The number of `count` bytes, up to four, the lowest first.
+  quint32 littleEndian(qsizetype at, qsizetype count) const {
+    const Stretch place = part(at, count);
+    quint32 number = 0;
+    for (qsizetype i = count - 1; i >= 0; --i) {
+      number = number << 8 | static_cast<quint8>(bytes_.at(place.begin_ + i));
+    }
+    return number;
   }
 
   const QByteArray& bytes_;

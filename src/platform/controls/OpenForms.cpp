@@ -45,11 +45,23 @@ QList<QPointer<CloseWatch>>& watches() {
   return list;
 }
 
+QPointer<QWidget>& mainWindow() {
+  static QPointer<QWidget> window;
+  return window;
+}
+
 }  // namespace
+
+void setMainWindow(QWidget* window) {
+  mainWindow() = window;
+}
 
 void add(QWidget* form) {
   if (all().contains(form)) {
     return;
+  }
+  if (mainWindow() != nullptr && mainWindow() != form && form->parentWidget() == nullptr) {
+    form->setParent(mainWindow(), form->windowFlags());
   }
   for (const QPointer<CloseWatch>& watch : watches()) {
     if (watch->form() == form) {

@@ -9,7 +9,10 @@ class QWidget;
 
 namespace quartela::OpenForms {
 
-// Enters a window. It leaves by itself when it is closed or destroyed. Not owned; entering it twice
+// The window that those entered from now on stay above; null for none. Not owned; it need not be entered.
+void setMainWindow(QWidget* window);
+
+// Enters a window, and puts one without a parent above the main window. It leaves by itself when it is closed or destroyed. Not owned; entering it twice
 // changes nothing.
 void add(QWidget* form);
 

@@ -78,7 +78,7 @@ def wait(condition, what):
 
 
 def rows(database, sql):
-    connection = sqlite3.connect(f"file:{database}?mode=ro", uri=True)
+    connection = sqlite3.connect(f"file:{database}?immutable=1", uri=True)
     try:
         return [row[0] for row in connection.execute(sql)]
     finally:
