@@ -1,6 +1,7 @@
 #include "screens/frmAviso.h"
 
 #include <QApplication>
+#include <QStyle>
 
 #include "foundation/Banco.h"
 #include "foundation/Estilo.h"
@@ -14,11 +15,12 @@ namespace quartela {
 namespace {
 
 constexpr int kFechaSozinho = 10;  // milliseconds
+constexpr QSize kIcone{32, 32};
 
 void prepara_colunas(ListView& lista) {
   lista.addColumn(QStringLiteral("PROC."), ColumnWidth::pixels(80));
-  lista.addColumn(QStringLiteral("NOME"), ColumnWidth::pixels(250));
-  lista.addColumn(QStringLiteral("FINALIDADE"), ColumnWidth::pixels(200));
+  lista.addColumn(QStringLiteral("NOME"), ColumnWidth::pixels(260));
+  lista.addColumn(QStringLiteral("FINALIDADE"), ColumnWidth::pixels(210));
   lista.addColumn(QStringLiteral("FECHAR EM"), ColumnWidth::pixels(100));
 }
 
@@ -32,7 +34,10 @@ void adiciona_vencendo(ListView& lista) {
 frmAviso::frmAviso(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmAviso>()) {
   ui_->setupUi(this);
   Estilo::prepara_janela(*this);
+  ui_->Image1->setPixmap(
+      style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(kIcone, devicePixelRatioF()));
   prepara_colunas(*ui_->lvList);
+  ui_->Command1->setFocus();
   Timer1.setInterval(kFechaSozinho);
   connect(&Timer1, &QTimer::timeout, this, [this] {
     Timer1.stop();

@@ -1,0 +1,177 @@
+#include "screens/Campos.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTimer>
+#include <QToolTip>
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+#include "platform/controls/DatePicker.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/values/Convert.h"
+
+namespace quartela {
+namespace {
+
+const DateTime kPrimeiraData = DateTime::of(1997, 1, 1);
+const DateTime kUltimaData = DateTime::of(2100, 12, 31);
+
+// Lets `trata` see the events of a widget for as long as it lives; true ends the event.
+class Vigia : public QObject {
+ public:
+  using Trata = std::function<bool(QEvent&)>;
+
+  Vigia(QWidget& campo, Trata trata) : QObject(&campo), trata_(std::move(trata)) {
+    campo.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* objeto, QEvent* evento) override {
+    return trata_(*evento) || QObject::eventFilter(objeto, evento);
+  }
+
+ private:
+  Trata trata_;
+};
+
+bool eh_enter(const QEvent& evento) {
+  if (evento.type() != QEvent::KeyPress) {
+    return false;
+  }
+  const int tecla = static_cast<const QKeyEvent&>(evento).key();
+  return tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+}
+
+QString conteudo(const QWidget* campo) {
+  if (const auto* linha = qobject_cast<const QLineEdit*>(campo)) {
+    return linha->text();
+  }
+  if (const auto* texto = qobject_cast<const QPlainTextEdit*>(campo)) {
+    return texto->toPlainText();
+  }
+  if (const auto* combo = qobject_cast<const QComboBox*>(campo)) {
+    return combo->currentText();
+  }
+  if (const auto* botao = qobject_cast<const QAbstractButton*>(campo)) {
+    return botao->isCheckable() && botao->isChecked() ? QStringLiteral("x") : QString();
+  }
+  return {};
+}
+
+}  // namespace
+
+// The click that brings the focus sets the caret afterwards; so the selection waits for it.
+void Seleciona_ao_entrar(QLineEdit& campo) {
+  new Vigia(campo, [&campo](QEvent& evento) {
+    if (evento.type() == QEvent::FocusIn) {
+      const bool com_mouse = static_cast<QFocusEvent&>(evento).reason() == Qt::MouseFocusReason;
+      campo.selectAll();
+      if (com_mouse) {
+        QTimer::singleShot(0, &campo, &QLineEdit::selectAll);
+      }
+    }
+    return false;
+  });
+}
+
+void Enter_avanca(QLineEdit& campo) {
+  new Vigia(campo, [&campo](QEvent& evento) {
+    if (!eh_enter(evento)) {
+      return false;
+    }
+    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QCoreApplication::sendEvent(&campo, &tab);
+    return true;
+  });
+}
+
+void Ignora_roda(QWidget& campo) {
+  new Vigia(campo, [](QEvent& evento) {
+    if (evento.type() == QEvent::Wheel) {
+      evento.ignore();
+      return true;
+    }
+    return false;
+  });
+}
+
+QString Nome_proprio(const QString& texto) {
+  QString proprio = texto.toLower();
+  bool inicio = true;
+  for (QChar& letra : proprio) {
+    if (inicio) {
+      letra = letra.toUpper();
+    }
+    inicio = letra.isSpace();
+  }
+  return proprio;
+}
+
+QString Conteudo_digitado(const QWidget& tela) {
+  QString tudo;
+  const QList<QWidget*> campos = tela.findChildren<QWidget*>();
+  for (const QWidget* campo : campos) {
+    tudo += conteudo(campo) + QChar(QChar::Null);
+  }
+  return tudo;
+}
+
+bool Confirma_abandono() {
+  return Dialogs::box(
+             {.text = QStringLiteral("O que foi digitado não foi gravado. Sair assim mesmo?"),
+              .title = QStringLiteral("Aviso"),
+              .icon = BoxIcon::Question,
+              .buttons = {Button::Yes, Button::No},
+              .defaultButton = Button::No}) == Button::Yes;
+}
+
+void Mostra_data(DatePicker& data, const Value& valor) {
+  DateTime primeira = kPrimeiraData;
+  DateTime ultima = kUltimaData;
+  if (!valor.isNull()) {
+    const DateTime dia = Convert::toDateTime(valor).date();
+    primeira = std::min(primeira, dia);
+    ultima = std::max(ultima, dia);
+  }
+  data.setMinimum(primeira);
+  data.setMaximum(ultima);
+  data.setValue(valor);
+}
+
+void DatasRecusadas::observa(DatePicker& data) {
+  data.setMinimum(kPrimeiraData);
+  data.setMaximum(kUltimaData);
+  QObject::connect(
+      &data, &DatePicker::typingRefused, &data, [this, &data](const QString& digitado) {
+        recusada_ = &data;
+        QToolTip::showText(
+            data.mapToGlobal(data.rect().bottomLeft()),
+            QStringLiteral("%1 não é uma data de 1997 a 2100: voltou o valor anterior.")
+                .arg(digitado),
+            &data);
+      });
+  const auto aceita = [this, &data] {
+    if (recusada_ == &data) {
+      recusada_ = nullptr;
+    }
+  };
+  QObject::connect(&data, &DatePicker::valueChanged, &data, aceita);
+}
+
+bool DatasRecusadas::avisa() {
+  if (recusada_ == nullptr) {
+    return false;
+  }
+  DatePicker* const data = std::exchange(recusada_, nullptr);
+  Dialogs::exclamation(QStringLiteral("Data inválida!!"), QStringLiteral("Aviso"));
+  data->setFocus();
+  return true;
+}
+
+}  // namespace quartela

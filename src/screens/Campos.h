@@ -1,0 +1,78 @@
+// What the screens of the advance lifecycle share about fields and typing.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include "foundation/Aplicacao.h"
+#include "platform/values/RuntimeError.h"
+#include "platform/values/Value.h"
+
+class QLineEdit;
+class QWidget;
+
+namespace quartela {
+
+class DatePicker;
+
+// Selects the whole text whenever the field gets the focus, also by the mouse.
+void Seleciona_ao_entrar(QLineEdit& campo);
+
+// Enter goes on to the next field, as the Tab key does.
+void Enter_avanca(QLineEdit& campo);
+
+// The wheel scrolls the page; it changes no value, not even of a field with the focus.
+void Ignora_roda(QWidget& campo);
+
+// Each word with a capital at its head and small letters behind it.
+QString Nome_proprio(const QString& texto);
+
+// All that the operator can type or tick inside `tela`, as one text, to tell whether it has
+// changed.
+QString Conteudo_digitado(const QWidget& tela);
+
+// Asks whether what was typed and not saved may be given up.
+bool Confirma_abandono();
+
+// Dates are typed from 1997 to 2100; what the database holds is shown all the same.
+void Mostra_data(DatePicker& data, const Value& valor);
+
+// Runs one step of a routine that goes on with the next whatever happens.
+template <typename Passo>
+void Segue(Passo&& passo) {
+  try {
+    passo();
+  } catch (const RuntimeError&) {
+    return;
+  }
+}
+
+// `rotina` of `tela` as a handler: a run-time error is told as one that no trap took. It is told
+// here and not at the event loop, since the toolkit frees nothing that an error passes by on its
+// way there.
+template <typename Tela, typename... Argumentos>
+auto Trata(Tela* tela, void (Tela::*rotina)(Argumentos...)) {
+  return [tela, rotina](Argumentos... argumentos) {
+    try {
+      (tela->*rotina)(argumentos...);
+    } catch (const RuntimeError& erro) {
+      mostra_erro_sem_trava(erro);
+    }
+  };
+}
+
+// Dates that were typed and refused. Each is told on the spot beside its field, and once more, in a
+// box, when the operator is about to save without having looked at it again.
+class DatasRecusadas {
+ public:
+  // Both must outlive the picker's last signal.
+  void observa(DatePicker& data);
+  // True, after the box and with the focus on the field, when a date was refused since it was last
+  // changed.
+  bool avisa();
+
+ private:
+  DatePicker* recusada_ = nullptr;
+};
+
+}  // namespace quartela

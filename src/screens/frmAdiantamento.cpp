@@ -1,0 +1,260 @@
+#include "screens/frmAdiantamento.h"
+
+#include <QEvent>
+
+#include "foundation/Erros.h"
+#include "foundation/Estilo.h"
+#include "foundation/Rotinas.h"
+#include "masterdata/cTipos.h"
+#include "platform/controls/ComboBox.h"
+#include "platform/controls/ListView.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/values/Clock.h"
+#include "platform/values/Convert.h"
+#include "platform/values/Format.h"
+#include "records/Gravacao.h"
+#include "records/cAdiantamento.h"
+#include "ui_frmAdiantamento.h"
+
+namespace quartela {
+
+std::int16_t AlteraEmpenho = 0;
+
+namespace {
+
+constexpr QStringView kData = u"dd/MM/yyyy";
+constexpr QStringView kValor = u"#,##0.00";
+const QString kZero = QStringLiteral("0,00");
+constexpr int kBackspace = 8;
+
+// The columns of the list of empenhos.
+constexpr int kAbertura = 1;
+constexpr int kRetirada = 2;
+constexpr int kFecharEm = 3;
+constexpr int kFechamento = 4;
+constexpr int kDevolucao = 5;
+constexpr int kDataDevolucao = 6;
+constexpr int kOP = 7;
+
+Value data_mostrada(const QString& texto) {
+  return texto.isEmpty() ? Value() : Value(texto);
+}
+
+Value data_ou_vazia(const DatePicker& data) {
+  return data.isEmpty() ? Value() : Value(Format(data.value(), kData));
+}
+
+}  // namespace
+
+frmAdiantamento::frmAdiantamento(const ContextoEmpenho& contexto, QWidget* parent)
+    : QDialog(parent),
+      ui_(std::make_unique<Ui::frmAdiantamento>()),
+      contexto_(contexto),
+      novo_(AlteraEmpenho == 0) {
+  ui_->setupUi(this);
+  Estilo::prepara_janela(*this);
+  Estilo::destaca(*ui_->Command1);
+  for (DatePicker* const campo : {ui_->dtpabertura, ui_->dtpretirada, ui_->dtpfechar_em,
+                                  ui_->dtpfechamento, ui_->dtpdevolucao}) {
+    datas_.observa(*campo);
+  }
+  // What a reader of the screen would find nameless.
+  const QList<QAbstractButton*> botoes = ui_->MonthView1->findChildren<QAbstractButton*>();
+  for (QAbstractButton* const botao : botoes) {
+    botao->setAccessibleName(ui_->MonthView1->accessibleName());
+  }
+  Form_Load();
+  liga_eventos();
+  carregado_ = Conteudo_digitado(*this);
+}
+
+// The field that loses the focus still reports to this window, not to what is left of it.
+frmAdiantamento::~frmAdiantamento() {
+  hide();
+}
+
+void frmAdiantamento::liga_eventos() {
+  Seleciona_ao_entrar(*ui_->mskempenho);
+  Filtra_teclas(*ui_->mskOP, [](QLineEdit&, int& tecla) {
+    if (tecla != kBackspace && (tecla < '0' || tecla > '9')) {
+      tecla = 0;
+    }
+  });
+  ui_->dtpfechamento->installEventFilter(this);
+  connect(ui_->dtpretirada, &DatePicker::valueChanged, this,
+          Trata(this, &frmAdiantamento::dtpretirada_Change));
+  // A date that is typed proposes the amount as a click does.
+  connect(ui_->dtpfechamento, &DatePicker::valueChanged, this, [this] {
+    if (!ui_->dtpfechamento->isEmpty()) {
+      Trata(this, &frmAdiantamento::dtpfechamento_Click)();
+    }
+  });
+  connect(ui_->MonthView1, &QCalendarWidget::clicked, this,
+          Trata(this, &frmAdiantamento::MonthView1_DateClick));
+  connect(ui_->MonthView1, &QCalendarWidget::activated, this,
+          Trata(this, &frmAdiantamento::MonthView1_DateClick));
+  connect(ui_->Command1, &QPushButton::clicked, this,
+          Trata(this, &frmAdiantamento::Command1_Click));
+  connect(ui_->Command2, &QPushButton::clicked, this, [this] { done(Rejected); });
+}
+
+void frmAdiantamento::Form_Load() {
+  const DateTime hoje = Clock::today();
+  ui_->MonthView1->setSelectedDate(QDate(hoje.year(), hoje.month(), hoje.day()));
+  ui_->txtprocesso->setText(contexto_.processo);
+  if (novo_) {
+    prepara_novo();
+  } else {
+    Sob_trava(QStringLiteral("Função Carrega_dados"), [this] { Carrega_dados(); });
+    ui_->Frame4->setEnabled(true);
+  }
+}
+
+void frmAdiantamento::prepara_novo() {
+  ui_->dtpabertura->setToday();
+  for (DatePicker* const campo :
+       {ui_->dtpretirada, ui_->dtpfechar_em, ui_->dtpfechamento, ui_->dtpdevolucao}) {
+    campo->setValue(Value());
+  }
+  ui_->mskdev->setText(kZero);
+}
+
+// The box of the annulled empenho goes by the column of the payment order, so that it opens without
+// a tick whatever the empenho's mark is.
+void frmAdiantamento::Carrega_dados() {
+  const ListView& lista = *contexto_.lstEmpenho;
+  const int linha = lista.selectedRow();
+  const auto mostra = [&](DatePicker* campo, int n) {
+    Mostra_data(*campo, data_mostrada(lista.subItem(linha, n)));
+  };
+  ui_->mskempenho->setText(contexto_.chave);
+  mostra(ui_->dtpabertura, kAbertura);
+  mostra(ui_->dtpretirada, kRetirada);
+  mostra(ui_->dtpfechar_em, kFecharEm);
+  mostra(ui_->dtpfechamento, kFechamento);
+  ui_->mskdev->setText(lista.subItem(linha, kDevolucao));
+  mostra(ui_->dtpdevolucao, kDataDevolucao);
+  ui_->mskOP->setText(lista.subItem(linha, kOP));
+  ui_->Check1->setChecked(lista.subItem(linha, kOP) == QStringLiteral("SIM"));
+  ui_->mskempenho->setEnabled(false);
+}
+
+// The deadline is the withdrawal date and the days that the advance type allows. An emptied
+// withdrawal date has none.
+void frmAdiantamento::dtpretirada_Change() {
+  cTipos& tipos = cTipos::compartilhada();
+  const ComboBox& tipo = *contexto_.cmbTipo;
+  tipos.Envia_dados(Convert::toI16(tipo.itemDataAt(tipo.listIndex())));
+  const std::int16_t dias = Convert::toI16(tipos.Prazo.left(2));
+  const Value retirada = ui_->dtpretirada->value();
+  ui_->dtpfechar_em->setValue(retirada.isNull() ? Value()
+                                                : Value(retirada.dateTime().addDays(dias)));
+}
+
+// The notes hang on the empenho's number. With more spent than was requested the amount stays.
+void frmAdiantamento::dtpfechamento_Click() {
+  cAdiantamento& adiantamento = cAdiantamento::compartilhada();
+  adiantamento.processo = Convert::toI32(ui_->mskempenho->clipText());
+  const Money diferenca = contexto_.mskvalor->value() - adiantamento.Soma_despesas();
+  if (!diferenca.isNegative()) {
+    ui_->mskdev->setText(Format(diferenca, kValor));
+  }
+}
+
+void frmAdiantamento::MonthView1_DateClick(const QDate& dia) {
+  const DateTime escolhido = DateTime::of(dia.year(), dia.month(), dia.day());
+  ui_->dtpfechamento->setValue(escolhido);
+  ui_->dtpdevolucao->setValue(escolhido);
+  dtpfechamento_Click();
+}
+
+bool frmAdiantamento::eventFilter(QObject* objeto, QEvent* evento) {
+  if (objeto == ui_->dtpfechamento && evento->type() == QEvent::MouseButtonRelease) {
+    Trata(this, &frmAdiantamento::dtpfechamento_Click)();
+  }
+  return QDialog::eventFilter(objeto, evento);
+}
+
+void frmAdiantamento::changeEvent(QEvent* evento) {
+  QDialog::changeEvent(evento);
+  if (evento->type() == QEvent::ActivationChange && isActiveWindow() && novo_ && !ativado_) {
+    ativado_ = true;
+    ui_->mskempenho->setFocus();
+  }
+}
+
+void frmAdiantamento::Command1_Click() {
+  // A date that is still being typed is taken or refused first.
+  ui_->Command1->setFocus();
+  if (datas_.avisa() || !aceita()) {
+    return;
+  }
+  preenche_adiantamento();
+  cAdiantamento& adiantamento = cAdiantamento::compartilhada();
+  adiantamento.Save_ad(ui_->mskempenho->isEnabled() ? kInclusao : kAlteracao);
+  adiantamento.Lista_Adiantamento(*contexto_.lstEmpenho);
+  done(Accepted);
+}
+
+bool frmAdiantamento::recusa(const QString& texto, QWidget* campo) {
+  Dialogs::exclamation(texto, QStringLiteral("Aviso"));
+  campo->setFocus();
+  return false;
+}
+
+bool frmAdiantamento::aceita() {
+  if (ui_->mskempenho->isMaskEmpty()) {
+    return recusa(QStringLiteral("Informe o número do Empenho !!"), ui_->mskempenho);
+  }
+  acerta_devolucao();
+  if (ui_->dtpfechar_em->isEmpty()) {
+    return recusa(
+        QStringLiteral("Informe uma data para encerramento ?\n"
+                       "Obs.: Campo automático. Para despesas com Cursos ou Viagens longas \n"
+                       "distâncias contar 5 (cinco) dias do último dia de retorno do agente"),
+        ui_->dtpfechar_em);
+  }
+  if (ui_->dtpretirada->isEmpty()) {
+    return recusa(QStringLiteral("Informe uma data para a retirada ?"), ui_->dtpretirada);
+  }
+  if (ui_->dtpretirada->value().dateTime() > ui_->dtpfechar_em->value().dateTime()) {
+    return recusa(QStringLiteral("A data de encerramento não pode ser menor que a da retirada !!"),
+                  ui_->dtpfechar_em);
+  }
+  if (ui_->mskOP->isMaskEmpty()) {
+    return recusa(QStringLiteral("Informe o número da OP !!"), ui_->mskOP);
+  }
+  return true;
+}
+
+// Without a closing date nothing has been returned.
+void frmAdiantamento::acerta_devolucao() {
+  if (ui_->mskdev->isEmpty()) {
+    ui_->mskdev->setText(kZero);
+  } else if (ui_->dtpfechamento->isEmpty()) {
+    ui_->mskdev->setText(kZero);
+    ui_->dtpdevolucao->setValue(Value());
+  }
+}
+
+void frmAdiantamento::preenche_adiantamento() {
+  cAdiantamento& adiantamento = cAdiantamento::compartilhada();
+  adiantamento.Empenho = Convert::toI32(ui_->mskempenho->clipText());
+  adiantamento.processo = Convert::toI32(ui_->txtprocesso->text());
+  adiantamento.Abertura = ui_->dtpabertura->value();
+  adiantamento.Retirada = ui_->dtpretirada->value();
+  adiantamento.Fechar = ui_->dtpfechar_em->value();
+  adiantamento.Fechamento = data_ou_vazia(*ui_->dtpfechamento);
+  adiantamento.Devolucao = ui_->mskdev->value();
+  adiantamento.Datadev = data_ou_vazia(*ui_->dtpdevolucao);
+  adiantamento.OP = Convert::toI32(ui_->mskOP->text());
+  adiantamento.Nulo = ui_->Check1->isChecked() ? -1 : 0;
+}
+
+void frmAdiantamento::reject() {
+  if (Conteudo_digitado(*this) == carregado_ || Confirma_abandono()) {
+    QDialog::reject();
+  }
+}
+
+}  // namespace quartela

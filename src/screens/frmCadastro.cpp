@@ -1,0 +1,340 @@
+#include "screens/frmCadastro.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+
+#include "foundation/Banco.h"
+#include "foundation/Erros.h"
+#include "foundation/Estilo.h"
+#include "foundation/Rotinas.h"
+#include "platform/controls/OpenForms.h"
+#include "platform/controls/UpperCase.h"
+#include "platform/values/Convert.h"
+#include "records/Numeracao.h"
+#include "records/Principal.h"
+#include "records/cPrestContas.h"
+#include "screens/frmAdiantamento.h"
+#include "ui_frmCadastro.h"
+
+namespace quartela {
+namespace {
+
+constexpr QRgb kVerdeClaro = 0xFFC8F0C8;
+constexpr QRgb kAmareloClaro = 0xFFFFFF80;
+constexpr QRgb kAzulValor = 0xFF0000FF;
+constexpr QRgb kVerdeEscuro = 0xFF006400;
+// Fields that cannot be altered any more are still read.
+constexpr QRgb kTintaInativa = 0xFF55606D;
+
+void pinta_botao(QPushButton& botao, QRgb cor) {
+  QPalette cores = botao.palette();
+  cores.setColor(QPalette::Button, QColor(cor));
+  botao.setPalette(cores);
+}
+
+// Field by field, since the fields take their colours from the program, not from the part they
+// stand in.
+void escurece_inativos(QWidget& parte) {
+  const QList<QWidget*> campos = parte.findChildren<QWidget*>();
+  for (QWidget* const campo : campos) {
+    QPalette cores = campo->palette();
+    for (const QPalette::ColorRole papel :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      cores.setColor(QPalette::Disabled, papel, QColor(kTintaInativa));
+    }
+    campo->setPalette(cores);
+  }
+}
+
+void pinta_texto(QLabel& rotulo, QRgb cor) {
+  QPalette cores = rotulo.palette();
+  cores.setColor(QPalette::WindowText, QColor(cor));
+  rotulo.setPalette(cores);
+}
+
+void reserva_lugar(QWidget& campo) {
+  QSizePolicy politica = campo.sizePolicy();
+  politica.setRetainSizeWhenHidden(true);
+  campo.setSizePolicy(politica);
+}
+
+void coluna(ListView& lista, const char* titulo, int largura, Qt::Alignment lado = Qt::AlignLeft) {
+  lista.addColumn(QString::fromUtf8(titulo), ColumnWidth::pixels(largura), lado);
+}
+
+void negrita(QWidget& campo) {
+  QFont fonte = campo.font();
+  fonte.setBold(true);
+  campo.setFont(fonte);
+}
+
+}  // namespace
+
+// As a child of the main window it stays above it.
+frmCadastro::frmCadastro()
+    : QWidget(OpenForms::find(QStringLiteral("frmOficce")), Qt::Window),
+      ui_(std::make_unique<Ui::frmCadastro>()) {
+  ui_->setupUi(this);
+  Command1 = {ui_->Command1_0, ui_->Command1_1, ui_->Command1_2, ui_->Command1_3,
+              ui_->Command1_4, ui_->Command1_5, ui_->Command1_6};
+  prepara_tela();
+  prepara_colunas();
+  liga_janela();
+  liga_requisicao();
+  liga_empenho();
+  liga_notas();
+  liga_digitacao();
+  Form_Load();
+  requisicao_salva_ = Conteudo_digitado(*ui_->fracadastro);
+  nota_salva_ = Conteudo_digitado(*ui_->fraNotas);
+}
+
+// The field that loses the focus still reports to this window, not to what is left of it.
+frmCadastro::~frmCadastro() {
+  hide();
+}
+
+void frmCadastro::prepara_tela() {
+  Estilo::prepara_janela(*this);
+  Estilo::destaca(*ui_->cmdAplicar);
+  for (QWidget* const parte :
+       {static_cast<QWidget*>(ui_->fracadastro), static_cast<QWidget*>(ui_->fraNotas)}) {
+    escurece_inativos(*parte);
+  }
+  pinta_botao(*ui_->Command1_4, kVerdeClaro);
+  pinta_botao(*ui_->Command1_5, qRgb(255, 255, 255));
+  pinta_botao(*ui_->cmdEncerrar, kAmareloClaro);
+  pinta_texto(*ui_->lblEmpenho, kAzulValor);
+  pinta_texto(*ui_->lblGasto, kVerdeEscuro);
+  pinta_texto(*ui_->lblNao_aplicado, kAzulValor);
+  for (QWidget* const rotulo : {ui_->lblIdentificacao_27, ui_->lblEmpenho, ui_->lblGasto,
+                                ui_->lblNao_aplicado, ui_->lblachou_0, ui_->lblachou_1}) {
+    negrita(*rotulo);
+  }
+  for (QWidget* const campo :
+       {static_cast<QWidget*>(ui_->pbr), static_cast<QWidget*>(ui_->lblachou_0),
+        static_cast<QWidget*>(ui_->lblachou_1)}) {
+    reserva_lugar(*campo);
+  }
+  // Enter presses the button that has the focus, and none else.
+  const QList<QPushButton*> botoes = findChildren<QPushButton*>();
+  for (QPushButton* const botao : botoes) {
+    botao->setAutoDefault(true);
+  }
+  ui_->cmbficha->setTypingBlocked(true);
+  ui_->cmbficha->lineEdit()->setAccessibleName(ui_->cmbficha->accessibleName());
+}
+
+void frmCadastro::prepara_colunas() {
+  ListView& empenhos = *ui_->lstEmpenho;
+  coluna(empenhos, "Empenho", 78);
+  coluna(empenhos, "Abertura", 82);
+  coluna(empenhos, "Retirada", 82);
+  coluna(empenhos, "Fechar em", 82);
+  coluna(empenhos, "Fechamento", 86);
+  coluna(empenhos, "Valor devolvido", 110, Qt::AlignRight);
+  coluna(empenhos, "Data devolução", 110);
+  coluna(empenhos, "O.P.", 52);
+  coluna(empenhos, "Anulado?", 68);
+  ListView& notas = *ui_->lstNotas;
+  coluna(notas, "SEQ", 70);
+  coluna(notas, "DATA", 96);
+  coluna(notas, " DOC.", 110);
+  coluna(notas, "IDENTIFICAÇÃO DO DOCUMENTO", 380);
+  coluna(notas, "VALOR", 120, Qt::AlignRight);
+  coluna(notas, "TOTAL", 120, Qt::AlignRight);
+}
+
+void frmCadastro::liga_janela() {
+  connect(ui_->SSTab1, &QTabWidget::currentChanged, this, &frmCadastro::SSTab1_Click);
+  connect(ui_->cmdPrestacao, &QPushButton::clicked, this,
+          Trata(this, &frmCadastro::cmdPrestacao_Click));
+  connect(ui_->cmdOk, &QPushButton::clicked, this, Trata(this, &frmCadastro::cmdOk_Click));
+  connect(ui_->cmdAplicar, &QPushButton::clicked, this,
+          Trata(this, &frmCadastro::cmdAplicar_Click));
+  connect(ui_->cmdImprimir, &QPushButton::clicked, this,
+          Trata(this, &frmCadastro::cmdImprimir_Click));
+  connect(Command1[0], &QPushButton::clicked, this, Trata(this, &frmCadastro::Sair));
+}
+
+void frmCadastro::liga_requisicao() {
+  datas_.observa(*ui_->dtpdata);
+  for (ComboBox* const combo :
+       {ui_->cmbOrgao, ui_->cmbOrdenador, ui_->cmbResponsavel, ui_->cmbTipo, ui_->cmbficha}) {
+    Ignora_roda(*combo);
+  }
+  connect(ui_->cmbOrgao, &ComboBox::dropDown, this, [this] {
+    recarrega(*ui_->cmbOrgao, [this] {
+      Carrega_Controles(*ui_->cmbOrgao, QStringLiteral("Orgao"), QStringLiteral("ORGAO"),
+                        QStringLiteral("IDORGAO"), kTodos);
+    });
+  });
+  connect(ui_->cmbResponsavel, &ComboBox::dropDown, this, [this] {
+    recarrega(*ui_->cmbResponsavel, [this] {
+      Carrega_Controles(*ui_->cmbResponsavel,
+                        QStringLiteral("Select * from Tomador Where ATIVO = True ORDER BY NOME1;"),
+                        QStringLiteral("NOME1"), QStringLiteral("ID"), kComando);
+    });
+  });
+  connect(ui_->cmbficha, &ComboBox::dropDown, this, &frmCadastro::cmbficha_DropDown);
+  connect(ui_->cmbOrgao, &ComboBox::picked, this, &frmCadastro::cmbOrgao_Click);
+  connect(ui_->cmbOrdenador, &ComboBox::picked, this, &frmCadastro::cmbOrdenador_Click);
+  connect(ui_->cmbResponsavel, &ComboBox::picked, this, &frmCadastro::cmbResponsavel_Click);
+  connect(ui_->cmbTipo, &ComboBox::picked, this, &frmCadastro::cmbTipo_Click);
+}
+
+void frmCadastro::liga_empenho() {
+  ListView* const lista = ui_->lstEmpenho;
+  lista->installEventFilter(this);
+  lista->viewport()->installEventFilter(this);
+  connect(lista, &ListView::itemClicked, this, [this, lista](int linha) {
+    Tag = lista->text(linha);
+    copia_chave();
+  });
+  connect(lista, &ListView::itemActivated, this, Trata(this, &frmCadastro::cmdalterar_Click));
+  connect(lista, &ListView::columnClicked, this, [lista](int n) { Ordena_lista(*lista, n); });
+  connect(ui_->cmdnovo, &QPushButton::clicked, this, Trata(this, &frmCadastro::cmdnovo_Click));
+  connect(ui_->cmdalterar, &QPushButton::clicked, this,
+          Trata(this, &frmCadastro::cmdalterar_Click));
+  connect(ui_->cmdexcluir, &QPushButton::clicked, this,
+          Trata(this, &frmCadastro::cmdexcluir_Click));
+  connect(ui_->cmdEncerrar, &QPushButton::clicked, this,
+          Trata(this, &frmCadastro::cmdEncerrar_Click));
+}
+
+void frmCadastro::liga_notas() {
+  connect(Command1[1], &QPushButton::clicked, this, Trata(this, &frmCadastro::Alterar));
+  connect(Command1[2], &QPushButton::clicked, this, Trata(this, &frmCadastro::Gravar));
+  connect(Command1[3], &QPushButton::clicked, this, Trata(this, &frmCadastro::Incluir));
+  connect(Command1[4], &QPushButton::clicked, this, Trata(this, &frmCadastro::imprime_prestacao));
+  connect(Command1[5], &QPushButton::clicked, this, Trata(this, &frmCadastro::Exporta));
+  connect(Command1[6], &QPushButton::clicked, this, Trata(this, &frmCadastro::Cancelar));
+  ListView* const lista = ui_->lstNotas;
+  connect(lista, &ListView::itemClicked, this,
+          [this, lista](int linha) { ui_->txtseq->setText(lista->text(linha)); });
+  connect(lista, &ListView::columnClicked, this, [lista](int n) { Ordena_lista(*lista, n); });
+  connect(lista, &ListView::deleteRequested, this, Trata(this, &frmCadastro::mnExcluir_Click));
+  auto* const mnOpcoes = new QMenu(this);
+  mnOpcoes->setObjectName(QStringLiteral("mnOpcoes"));
+  QAction* const mnExcluir = mnOpcoes->addAction(QStringLiteral("&Excluir item selecionado"));
+  mnExcluir->setObjectName(QStringLiteral("mnExcluir"));
+  connect(mnExcluir, &QAction::triggered, this, Trata(this, &frmCadastro::mnExcluir_Click));
+  connect(lista, &ListView::contextMenuRequested, this,
+          [mnOpcoes](int, const QPoint& lugar) { mnOpcoes->popup(lugar); });
+}
+
+void frmCadastro::liga_digitacao() {
+  for (QLineEdit* const campo : {ui_->txtdatanota, ui_->txtordem, ui_->txtrazao_social,
+                                 static_cast<QLineEdit*>(ui_->mskValor_nota)}) {
+    Seleciona_ao_entrar(*campo);
+    Enter_avanca(*campo);
+  }
+  Filtra_teclas(*ui_->txtdatanota, Mascara_data);
+  typeUpperCase(*ui_->txtrazao_social);
+  ui_->txtrazao_social->installEventFilter(this);
+  connect(ui_->txtordem, &QLineEdit::textChanged, this, &frmCadastro::txtordem_Change);
+  connect(ui_->txtordem, &QLineEdit::editingFinished, this, [this] {
+    const QString proprio = Nome_proprio(ui_->txtordem->text());
+    if (proprio != ui_->txtordem->text()) {
+      ui_->txtordem->setText(proprio);
+    }
+  });
+  connect(ui_->txtrazao_social, &QLineEdit::textChanged, this,
+          &frmCadastro::txtrazao_social_Change);
+}
+
+void frmCadastro::Form_Load() {
+  ui_->SSTab1->setTabEnabled(1, false);
+  const bool tem_empenho = ui_->lstEmpenho->count() > 0;
+  ui_->fracadastro->setEnabled(!tem_empenho);
+  ui_->cmdAplicar->setEnabled(!tem_empenho);
+  if (tem_empenho) {
+    ui_->cmdOk->setEnabled(true);
+  }
+  if (ModoAlteracao == 0) {
+    Novo_item(*ui_->mskprocesso, caminhos.number);
+    ui_->dtpdata->setToday();
+  } else {
+    carrega_processo();
+  }
+}
+
+// Inactive rows are listed too, so that an old process can show them.
+void frmCadastro::carrega_processo() {
+  const auto carrega = [](ComboBox* combo, const char* tabela, const char* exibida,
+                          const char* chave) {
+    Carrega_Controles(*combo, QLatin1String(tabela), QLatin1String(exibida), QLatin1String(chave),
+                      kTodos);
+  };
+  carrega(ui_->cmbOrgao, "Orgao", "ORGAO", "IDORGAO");
+  carrega(ui_->cmbResponsavel, "Tomador", "NOME1", "ID");
+  carrega(ui_->cmbTipo, "Tipos", "TIPO", "SEQUENCIA");
+  carrega(ui_->cmbOrdenador, "Executor", "NOME", "ORDEM");
+  Sob_trava(QStringLiteral("Função Carrega_dados"), [this] { Carrega_dados(); });
+  lista_empenhos();
+  ui_->cmdImprimir->setEnabled(true);
+  if (ui_->lstEmpenho->count() == 1) {
+    ui_->cmdnovo->setEnabled(false);
+    ui_->cmdPrestacao->setEnabled(true);
+  }
+}
+
+void frmCadastro::SSTab1_Click(int pagina) {
+  if (pagina == 0) {
+    chega_requisicao();
+  } else {
+    chega_prestacao();
+  }
+}
+
+void frmCadastro::chega_requisicao() {
+  for (QPushButton* const botao : {ui_->cmdOk, ui_->cmdAplicar, ui_->cmdImprimir}) {
+    botao->show();
+  }
+}
+
+void frmCadastro::Sair() {
+  if (atualiza_ao_sair_) {
+    Lista_principal(FiltroStatus);
+  }
+  close();
+}
+
+QString frmCadastro::numero_processo() const {
+  return ui_->mskprocesso->clipText();
+}
+
+std::int32_t frmCadastro::processo() const {
+  const QString numero = numero_processo();
+  return numero.isEmpty() ? 0 : Convert::toI32(numero);
+}
+
+bool frmCadastro::tem_digitacao() const {
+  return Conteudo_digitado(*ui_->fracadastro) != requisicao_salva_ ||
+         (ui_->fraNotas->isEnabled() && Conteudo_digitado(*ui_->fraNotas) != nota_salva_);
+}
+
+// A key or a click on the list of empenhos, beside its rows too, takes up the one last clicked.
+bool frmCadastro::eventFilter(QObject* objeto, QEvent* evento) {
+  const bool toca =
+      evento->type() == QEvent::KeyPress || evento->type() == QEvent::MouseButtonPress;
+  if (toca && (objeto == ui_->lstEmpenho || objeto == ui_->lstEmpenho->viewport())) {
+    copia_chave();
+  } else if (objeto == ui_->txtrazao_social && evento->type() == QEvent::KeyPress) {
+    const auto* const tecla = static_cast<QKeyEvent*>(evento);
+    apagando_ = tecla->key() == Qt::Key_Backspace || tecla->key() == Qt::Key_Delete ||
+                tecla->matches(QKeySequence::Cut);
+  }
+  return QWidget::eventFilter(objeto, evento);
+}
+
+void frmCadastro::keyPressEvent(QKeyEvent* evento) {
+  if (evento->key() != Qt::Key_Escape) {
+    QWidget::keyPressEvent(evento);
+  } else if (!tem_digitacao() || Confirma_abandono()) {
+    Sair();
+  }
+}
+
+}  // namespace quartela

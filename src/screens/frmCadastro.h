@@ -1,0 +1,134 @@
+// The registration of a process: its requisition, its empenho and the notes presented against it.
+// On the first page the requisition is typed and the empenho kept, on the second the notes; from
+// there the process is closed, reopened, printed and exported.
+//
+// The construction is the loading: ModoAlteracao says whether a new process is offered or the one
+// of Tag_principal is shown. frmCadastro.cpp holds the opening and what belongs to the window as a
+// whole; the themes have a file each.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <array>
+#include <functional>
+#include <memory>
+
+#include "platform/values/Money.h"
+#include "screens/Campos.h"
+
+class QPushButton;
+
+namespace quartela {
+
+class ComboBox;
+class frmAdiantamento;
+
+namespace Ui {
+class frmCadastro;
+}
+
+class frmCadastro : public QWidget {
+  Q_OBJECT
+
+ public:
+  frmCadastro();
+  ~frmCadastro() override;
+
+ protected:
+  bool eventFilter(QObject* objeto, QEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+  // Opening (frmCadastro.cpp)
+  void prepara_tela();
+  void prepara_colunas();
+  void liga_janela();
+  void liga_requisicao();
+  void liga_empenho();
+  void liga_notas();
+  void liga_digitacao();
+  void Form_Load();
+  void carrega_processo();
+  void SSTab1_Click(int pagina);
+  void chega_requisicao();
+  void Sair();
+  bool tem_digitacao() const;
+  // The process number as digits alone, and as a number (0 while there is none).
+  QString numero_processo() const;
+  std::int32_t processo() const;
+
+  // The requisition (frmCadastro_requisicao.cpp)
+  void Carrega_dados();
+  void seleciona_listas();
+  void cmbOrgao_Click();
+  void cmbOrdenador_Click();
+  void cmbResponsavel_Click();
+  void cmbTipo_Click();
+  void cmbficha_DropDown();
+  // Fills `combo` anew and keeps what was chosen, where the new list still holds it.
+  void recarrega(ComboBox& combo, const std::function<void()>& carrega);
+  void cmdAplicar_Click();
+  bool aceita_outro_aberto();
+  void preenche_requisicao();
+  void cmdOk_Click();
+  void cmdImprimir_Click();
+
+  // The empenho (frmCadastro_empenho.cpp)
+  void lista_empenhos();
+  void copia_chave();
+  // The number of the selected empenho as digits alone; error 9 without one.
+  QString empenho_selecionado() const;
+  void cmdnovo_Click();
+  void cmdalterar_Click();
+  void cmdexcluir_Click();
+  bool falta_selecao();
+  void mostra_empenho(bool altera);
+  // The open dialog of the empenho; null for none.
+  frmAdiantamento* dialogo() const;
+  void cmdPrestacao_Click();
+  void cmdEncerrar_Click();
+  // True when the slip was printed, after which the window closes.
+  bool encerra();
+  void preenche_encerramento();
+  void reativa();
+  void marca_encerrado(bool encerrado);
+
+  // The notes (frmCadastro_notas.cpp)
+  void chega_prestacao();
+  void mostra_total(Money total);
+  void mostra_gasto(const QString& gasto);
+  // The number of the empenho whose notes are shown.
+  std::int32_t empenho_identificado() const;
+  void Incluir();
+  void Alterar();
+  void Gravar();
+  void Cancelar();
+  void mnExcluir_Click();
+  bool nota_aceita();
+  void grava_nota();
+  // Lists the notes anew and tells their total.
+  void relista_notas();
+  void limpa_nota();
+  void txtordem_Change(const QString& texto);
+  void txtrazao_social_Change(const QString& texto);
+
+  // What leaves the program (frmCadastro_saida.cpp)
+  void imprime_prestacao();
+  // False when it failed, which the operator has been told.
+  bool imprime_guia();
+  void Exporta();
+  void exporta_para(const QString& arquivo);
+  QString texto_exportado();
+
+  std::unique_ptr<Ui::frmCadastro> ui_;
+  std::array<QPushButton*, 7> Command1{};
+  QString Tag;                     // the empenho last clicked, as shown
+  bool atualiza_ao_sair_ = false;  // the main list has become stale
+  bool altera_nota_ = false;       // "Gravar" alters the note of txtseq
+  DatasRecusadas datas_;
+  QString requisicao_salva_;  // the typed contents of each side when last loaded or saved
+  QString nota_salva_;
+  bool apagando_ = false;  // the history is being shortened, not typed
+};
+
+}  // namespace quartela

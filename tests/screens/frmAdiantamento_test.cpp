@@ -1,0 +1,425 @@
+// The dialog of the empenho.
+#include "screens/frmAdiantamento.h"
+
+#include <QCalendarWidget>
+#include <QCheckBox>
+
+#include "platform/controls/MaskedBox.h"
+#include "tests/screens/ProcessDesk.h"
+#include "tests/support/WindowChecks.h"
+#include "tests/support/office/OfficeMain.h"
+
+namespace quartela {
+
+using test::ScriptedDialogs;
+namespace boxes = test::boxes;
+
+class frmAdiantamentoTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { desk_ = std::make_unique<test::ProcessDesk>(); }
+  void cleanup() { desk_.reset(); }
+
+  void keepsToTheHouseRules() {
+    openToEdit();
+    QCOMPARE(dialog_->windowTitle(), QString("Adiantamento - Empenho"));
+    QCOMPARE(test::mnemonicClashes(*dialog_), QString());
+    QCOMPARE(test::unnamedControls(*dialog_), QString());
+    QCOMPARE(test::clippedTexts(*dialog_), QString());
+    QVERIFY(dialog_->minimumSizeHint().height() <= 540 &&
+            dialog_->minimumSizeHint().width() <= 1000);
+  }
+
+  void opensNew() {
+    openNew();
+    QCOMPARE(text("txtprocesso"), QString("001214"));
+    QCOMPARE(text("dtpabertura"), QString("21/11/2014"));
+    for (const char* name : {"dtpretirada", "dtpfechar_em", "dtpfechamento", "dtpdevolucao"}) {
+      QVERIFY(date(name)->isEmpty());
+    }
+    QCOMPARE(text("mskdev"), QString("0,00"));
+    QVERIFY(!child<QWidget>("Frame4")->isEnabled());
+    QVERIFY(child<QWidget>("mskempenho")->isEnabled());
+    QCOMPARE(focused(), QString("mskempenho"));
+    QCOMPARE(child<QCalendarWidget>("MonthView1")->selectedDate(), QDate(2014, 11, 21));
+  }
+
+  void opensToEdit() {
+    openToEdit(
+        "UPDATE Adiantamento SET FECHAMENTO = '2014-11-20 00:00:00', DEVOLUCAO = 1234500, DATADEV "
+        "= "
+        "'2014-11-19 00:00:00'");
+    const QList<QPair<const char*, QString>> shown{{"txtprocesso", "001214"},
+                                                   {"mskempenho", "00500/14"},
+                                                   {"mskOP", "77"},
+                                                   {"dtpabertura", "01/11/2014"},
+                                                   {"dtpretirada", "03/11/2014"},
+                                                   {"dtpfechar_em", "03/12/2014"},
+                                                   {"dtpfechamento", "20/11/2014"},
+                                                   {"mskdev", "123,45"},
+                                                   {"dtpdevolucao", "19/11/2014"}};
+    for (const auto& [name, value] : shown) {
+      QCOMPARE(text(name), value);
+    }
+    QVERIFY(child<QWidget>("Frame4")->isEnabled());
+    QVERIFY(!child<QWidget>("mskempenho")->isEnabled());
+  }
+
+  void theAnnulledBoxOpensUntickedAndOkClearsTheMark() {
+    openToEdit("UPDATE Adiantamento SET ANULADO = 1");
+    QCOMPARE(desk_->list("lstEmpenho")->subItem(0, 8), QString("SIM"));
+    QVERIFY(!child<QCheckBox>("Check1")->isChecked());
+    saveAltered();
+    QCOMPARE(desk_->office().ask("SELECT ANULADO FROM Adiantamento"), QString("0"));
+  }
+
+  void theTickedBoxAnnuls() {
+    openToEdit();
+    child<QCheckBox>("Check1")->setChecked(true);
+    saveAltered();
+    QCOMPARE(desk_->office().ask("SELECT ANULADO FROM Adiantamento"), QString("1"));
+    QCOMPARE(desk_->list("lstEmpenho")->subItem(0, 8), QString("SIM"));
+  }
+
+  void savesANewEmpenho() {
+    openNew();
+    fill();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saved());
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(
+        row(),
+        QString(
+            "60014|1214|2014-11-21 00:00:00|2014-11-21 00:00:00|2014-12-21 00:00:00|||0||0|123"));
+    QCOMPARE(desk_->list("lstEmpenho")->text(0), QString("00600/14"));
+    QVERIFY(!isOpen());
+    QCOMPARE(desk_->enabled("fracadastro cmdAplicar cmdnovo cmdPrestacao"), QString("0010"));
+  }
+
+  void aNumberAlreadyTakenIsToldAndChangesNothing() {
+    desk_->office().run(
+        "INSERT INTO Requisicao(SEQ, DATA, ORGAO, TOMADOR, VALOR, FINALIDADE) VALUES "
+        "(114, '2014-10-01 00:00:00', 1, 1, 5, 1);"
+        "INSERT INTO Adiantamento(EMPENHO, PROCESSO, OP) VALUES (60014, 114, 5)");
+    openNew();
+    fill();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saveFailure(ErrorNumber::DuplicateKey, test::kAnything));
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask("SELECT PROCESSO||'|'||OP FROM Adiantamento"), QString("114|5"));
+    QVERIFY(!isOpen());
+  }
+
+  void altersTheEmpenho() {
+    openToEdit();
+    type("mskOP", "99");
+    type("dtpretirada", "05112014");
+    saveAltered();
+    QCOMPARE(
+        row(),
+        QString(
+            "50014|1214|2014-11-01 00:00:00|2014-11-05 00:00:00|2014-12-05 00:00:00|||0||0|99"));
+  }
+
+  void cancelSavesNothingAndAsksNothing() {
+    openNew();
+    fill();
+    click("Command2");
+    QVERIFY(!isOpen());
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM Adiantamento"), QString("0"));
+    QCOMPARE(desk_->enabled("fracadastro cmdAplicar"), QString("00"));
+  }
+
+  void escapeAsksBeforeTypingIsLost() {
+    openNew();
+    type("mskOP", "1");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    QTest::keyClick(dialog_, Qt::Key_Escape);
+    QVERIFY(isOpen());
+    QCOMPARE(text("mskOP"), QString("1"));
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    QTest::keyClick(dialog_, Qt::Key_Escape);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(!isOpen());
+  }
+
+  void escapeWithNothingTypedCloses() {
+    openNew();
+    QTest::keyClick(dialog_, Qt::Key_Escape);
+    QVERIFY(!isOpen());
+  }
+
+  // Which field is spoilt, what is said, where the focus goes.
+  void checksInOrder_data() {
+    QTest::addColumn<QString>("spoilt");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("field");
+    const char* deadline =
+        "Informe uma data para encerramento ?\nObs.: Campo automático. Para despesas com Cursos ou "
+        "Viagens "
+        "longas \ndistâncias contar 5 (cinco) dias do último dia de retorno do agente";
+    QTest::newRow("no number") << "mskempenho dtpfechar_em mskOP"
+                               << "Informe o número do Empenho !!"
+                               << "mskempenho";
+    QTest::newRow("no deadline") << "dtpfechar_em mskOP" << deadline << "dtpfechar_em";
+    QTest::newRow("no withdrawal") << "dtpretirada-only mskOP"
+                                   << "Informe uma data para a retirada ?"
+                                   << "dtpretirada";
+    QTest::newRow("deadline before withdrawal")
+        << "order mskOP"
+        << "A data de encerramento não pode ser menor que a da retirada !!"
+        << "dtpfechar_em";
+    QTest::newRow("no payment order") << "mskOP"
+                                      << "Informe o número da OP !!"
+                                      << "mskOP";
+  }
+  void checksInOrder() {
+    QFETCH(QString, spoilt);
+    QFETCH(QString, message);
+    openNew();
+    fill();
+    spoil(spoilt);
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning(message));
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(isOpen());
+    QTEST(focused(), "field");
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM Adiantamento"), QString("0"));
+  }
+
+  void equalDatesPass() {
+    openNew();
+    fill();
+    type("dtpfechar_em", "21112014");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::No);
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+  }
+
+  void aDateTypedByHalfIsRefused() {
+    openNew();
+    fill();
+    type("dtpfechar_em", "0112");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Data inválida!!"));
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(focused(), QString("dtpfechar_em"));
+    dialogs.expectBox(boxes::askInclusion(), Button::No);
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+  }
+
+  void proposesTheDeadline_data() {
+    QTest::addColumn<QString>("prazo");
+    QTest::addColumn<QString>("deadline");
+    QTest::newRow("30 days") << "30 dias"
+                             << "10/12/2014";
+    QTest::newRow("5 days") << "05 dias"
+                            << "15/11/2014";
+    QTest::newRow("one digit") << "7 dias"
+                               << "17/11/2014";
+  }
+  void proposesTheDeadline() {
+    QFETCH(QString, prazo);
+    desk_->office().run(qPrintable(QString("UPDATE Tipos SET PRAZO = '%1'").arg(prazo)));
+    openNew();
+    type("dtpretirada", "10112014");
+    QTEST(text("dtpfechar_em"), "deadline");
+    type("dtpfechar_em", "24122014");
+    QCOMPARE(text("dtpfechar_em"), QString("24/12/2014"));
+  }
+
+  void aDeadlineThatIsNoNumberFails() {
+    desk_->office().run("UPDATE Tipos SET PRAZO = 'trinta'");
+    openNew();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox({.text = test::kAnything, .icon = BoxIcon::Stop});
+    type("dtpretirada", "10112014");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(date("dtpfechar_em")->isEmpty());
+    QVERIFY(isOpen());
+  }
+
+  void anEmptiedWithdrawalEmptiesTheDeadline() {
+    openToEdit();
+    date("dtpretirada")->setFocus();
+    QTest::keyClick(date("dtpretirada"), Qt::Key_Delete, Qt::ControlModifier);
+    QVERIFY(date("dtpretirada")->isEmpty());
+    QVERIFY(date("dtpfechar_em")->isEmpty());
+  }
+
+  void computesTheAmountReturned_data() {
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<int>("spent");
+    QTest::addColumn<QString>("amount");
+    QTest::addColumn<QString>("dates");
+    QTest::newRow("click, money left") << "click" << 300 << "700,00"
+                                       << "|";
+    QTest::newRow("typed, money left") << "type" << 300 << "700,00"
+                                       << "15/11/2014|";
+    QTest::newRow("calendar, money left") << "calendar" << 300 << "700,00"
+                                          << "10/11/2014|10/11/2014";
+    QTest::newRow("calendar, nothing left") << "calendar" << 1000 << "0,00"
+                                            << "10/11/2014|10/11/2014";
+    QTest::newRow("calendar, more spent") << "calendar" << 1500 << "5,00"
+                                          << "10/11/2014|10/11/2014";
+  }
+  void computesTheAmountReturned() {
+    QFETCH(QString, way);
+    QFETCH(int, spent);
+    desk_->addEmpenho();
+    desk_->addNote("2014-11-05", "1", "A", spent);
+    desk_->office().run("UPDATE Adiantamento SET DEVOLUCAO = 50000");
+    openSelected();
+    QCOMPARE(text("mskdev"), QString("5,00"));
+    if (way == "click") {
+      QTest::mouseClick(date("dtpfechamento"), Qt::LeftButton);
+    } else if (way == "type") {
+      type("dtpfechamento", "15112014");
+    } else {
+      emit child<QCalendarWidget>("MonthView1")->clicked(QDate(2014, 11, 10));
+    }
+    QTEST(text("mskdev"), "amount");
+    const QString dates = shownDate("dtpfechamento") + '|' + shownDate("dtpdevolucao");
+    QTEST(dates, "dates");
+  }
+
+  void withoutAClosingDateNothingIsReturned() {
+    openToEdit();
+    type("mskdev", "12,5");
+    type("dtpdevolucao", "15112014");
+    saveAltered();
+    QCOMPARE(desk_->office().ask("SELECT DEVOLUCAO||'|'||coalesce(DATADEV, '') FROM Adiantamento"),
+             QString("0|"));
+  }
+
+  void closesAndReopensByHand() {
+    openToEdit();
+    type("dtpfechamento", "15112014");
+    type("mskdev", "");
+    child<MoneyEdit>("mskdev")->clear();
+    saveAltered();
+    QCOMPARE(desk_->office().ask("SELECT FECHAMENTO||'|'||DEVOLUCAO FROM Adiantamento"),
+             QString("2014-11-15 00:00:00|0"));
+    openSelected();
+    QTest::keyClick(date("dtpfechamento"), Qt::Key_Delete, Qt::ControlModifier);
+    saveAltered();
+    QCOMPARE(desk_->office().ask("SELECT coalesce(FECHAMENTO, '') FROM Adiantamento"), QString());
+  }
+
+  void thePaymentOrderTakesFiveDigits() {
+    openNew();
+    type("mskOP", "1a2-3.456789");
+    QCOMPARE(text("mskOP"), QString("12345"));
+    QTest::keyClick(child<QWidget>("mskOP"), Qt::Key_Backspace);
+    QCOMPARE(text("mskOP"), QString("1234"));
+  }
+
+  void theNumberIsSelectedOnFocus() {
+    openNew();
+    type("mskempenho", "0060014");
+    child<QWidget>("mskOP")->setFocus();
+    child<QWidget>("mskempenho")->setFocus();
+    QCOMPARE(child<QLineEdit>("mskempenho")->selectedText(), QString("00600/14"));
+  }
+
+ private:
+  void openNew() {
+    desk_->openProcess();
+    desk_->click("cmdnovo");
+    take();
+  }
+  void openToEdit(const char* sql = nullptr) {
+    desk_->addEmpenho();
+    if (sql != nullptr) {
+      desk_->office().run(sql);
+    }
+    openSelected();
+  }
+  void openSelected() {
+    desk_->openProcess();
+    test::ProcessDesk::clickRow(desk_->list("lstEmpenho"), 0);
+    desk_->click("cmdalterar");
+    take();
+  }
+  void take() {
+    dialog_ = desk_->child<frmAdiantamento>("frmAdiantamento");
+    QVERIFY(dialog_);
+    QTRY_VERIFY(dialog_->isActiveWindow());
+  }
+  // Number 600/14, order 123, withdrawn today.
+  void fill() {
+    type("mskempenho", "0060014");
+    type("mskOP", "123");
+    type("dtpretirada", "21112014");
+    QCOMPARE(text("dtpfechar_em"), QString("21/12/2014"));
+  }
+  void spoil(const QString& what) {
+    for (const QString& field : what.split(' ')) {
+      if (field == "order") {
+        type("dtpfechar_em", "20112014");
+      } else if (field == "dtpretirada-only") {
+        date("dtpretirada")->setValue(Value());
+        type("dtpfechar_em", "21122014");
+      } else if (field.startsWith("dtp")) {
+        date(qPrintable(field))->setValue(Value());
+      } else {
+        child<MaskedBox>(qPrintable(field))->setText({});
+      }
+    }
+  }
+  void saveAltered() {
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askAlteration(), Button::Yes);
+    dialogs.expectBox(boxes::altered());
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(!isOpen());
+  }
+  QString row() {
+    return desk_->office().ask(
+        "SELECT EMPENHO||'|'||PROCESSO||'|'||ABERTURA||'|'||RETIRADA||'|'||FECHAR_EM||'|'||"
+        "coalesce(FECHAMENTO,'')||'||'||DEVOLUCAO||'|'||coalesce(DATADEV,'')||'|'||ANULADO||'|'||"
+        "OP "
+        "FROM Adiantamento");
+  }
+  bool isOpen() const { return dialog_ && dialog_->isVisible(); }
+  template <typename T>
+  T* child(const char* name) const {
+    return dialog_->findChild<T*>(QString::fromLatin1(name));
+  }
+  DatePicker* date(const char* name) const { return child<DatePicker>(name); }
+  QString text(const char* name) const { return child<QLineEdit>(name)->text(); }
+  QString shownDate(const char* name) const {
+    return date(name)->isEmpty() ? QString() : text(name);
+  }
+  QString focused() const {
+    return dialog_->focusWidget() ? dialog_->focusWidget()->objectName() : QString();
+  }
+  void click(const char* name) const {
+    QTest::mouseClick(child<QAbstractButton>(name), Qt::LeftButton);
+  }
+  void type(const char* name, const QString& typed) const {
+    auto* line = child<QLineEdit>(name);
+    line->setFocus();
+    line->selectAll();
+    test::typeText(line, typed);
+  }
+
+  std::unique_ptr<test::ProcessDesk> desk_;
+  QPointer<frmAdiantamento> dialog_;
+};
+
+}  // namespace quartela
+
+QUARTELA_OFFICE_TEST_MAIN(quartela::frmAdiantamentoTest)
+#include "frmAdiantamento_test.moc"

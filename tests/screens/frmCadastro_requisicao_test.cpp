@@ -1,0 +1,476 @@
+// The requisition side of the process screen.
+#include <QFile>
+
+#include "foundation/Banco.h"
+#include "platform/controls/OpenForms.h"
+#include "tests/screens/ProcessDesk.h"
+#include "tests/support/WindowChecks.h"
+#include "tests/support/office/OfficeMain.h"
+
+namespace quartela {
+
+using test::ScriptedDialogs;
+namespace boxes = test::boxes;
+
+constexpr const char* kStates =
+    "fracadastro cmdAplicar cmdOk cmdImprimir cmdnovo cmdalterar cmdexcluir cmdPrestacao";
+
+class frmCadastroRequisicaoTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { desk_ = std::make_unique<test::ProcessDesk>(); }
+  void cleanup() { desk_.reset(); }
+
+  void keepsToTheHouseRules() {
+    desk_->openNotes();
+    QCOMPARE(test::mnemonicClashes(*desk_->window()), QString());
+    QCOMPARE(test::unnamedControls(*desk_->window()), QString());
+    QCOMPARE(test::clippedTexts(*desk_->window()), QString());
+    QVERIFY(desk_->window()->minimumSizeHint().width() <= 1080);
+    QVERIFY(desk_->window()->minimumSizeHint().height() <= 560);
+    desk_->click("cmdPrestacao");
+    QCOMPARE(test::mnemonicClashes(*desk_->window()), QString());
+    QCOMPARE(test::clippedTexts(*desk_->window()), QString());
+  }
+
+  // The table of states, cell by cell.
+  void enablesByState_data() {
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QString>("enabled");
+    QTest::newRow("new, unsaved") << "new"
+                                  << "11000000";
+    QTest::newRow("new, saved") << "saved"
+                                << "10110000";
+    QTest::newRow("existing, no empenho") << "existing"
+                                          << "11011110";
+    QTest::newRow("existing, one empenho, main list without opening date") << "stale"
+                                                                           << "11010111";
+    QTest::newRow("existing, one empenho") << "empenho"
+                                           << "01010111";
+    QTest::newRow("dialog opened by cmdnovo") << "novo"
+                                              << "00011110";
+    QTest::newRow("dialog opened by cmdalterar") << "alterar"
+                                                 << "00010111";
+  }
+  void enablesByState() {
+    QFETCH(QString, state);
+    enter(state);
+    QCOMPARE(desk_->enabled(kStates), QTest::currentDataTag() ? expected() : QString());
+  }
+
+  void opensANewRequisition() {
+    desk_->openNew();
+    QCOMPARE(desk_->window()->windowTitle(), "Cadastro de Requisição");
+    QCOMPARE(desk_->text("mskprocesso"), "0328/14");
+    QCOMPARE(desk_->text("dtpdata"), "21/11/2014");
+    for (const char* name : {"cmbOrgao", "cmbOrdenador", "cmbResponsavel", "cmbTipo", "cmbficha"}) {
+      QCOMPARE(desk_->items(name), QStringList());
+    }
+    QCOMPARE(desk_->child<TwoPageTab>("SSTab1")->current(), 0);
+    QVERIFY(!desk_->child<TwoPageTab>("SSTab1")->tabEnabled(1));
+    desk_->type("mskprocesso", "9999");
+    QCOMPARE(desk_->text("mskprocesso"), "0328/14");
+  }
+
+  void fillsTheListsOneAfterTheOther() {
+    desk_->openNew();
+    desk_->pick("cmbOrgao", "Saúde");
+    QCOMPARE(desk_->items("cmbOrgao"), QStringList({"Educação", "Saúde"}));
+    QCOMPARE(desk_->items("cmbOrdenador"), QStringList{"Ana Lima"});
+    QCOMPARE(desk_->items("cmbTipo"), QStringList({"Miúdas", "Viagem"}));
+    desk_->pick("cmbOrdenador", "Ana Lima");
+    QCOMPARE(desk_->text("txtid"), "RG: 11.111 - CPF: 111.111.111-11");
+    desk_->pick("cmbResponsavel", "Davi Souza");
+    QCOMPARE(desk_->items("cmbResponsavel"), QStringList({"Davi Souza", "Fábio Dias"}));
+    QCOMPARE(desk_->text("txtid2"), "RG: 44.444 - CPF: 444.444.444-44");
+    QCOMPARE(desk_->text("txtcargo"), "Motorista");
+    desk_->pick("cmbTipo", "Miúdas");
+    QCOMPARE(desk_->items("cmbficha"), QStringList({"128", "128", "130"}));
+    emit desk_->combo("cmbficha")->dropDown();
+    QCOMPARE(desk_->items("cmbficha"), QStringList({"128", "130"}));
+    desk_->pick("cmbOrgao", "Educação");
+    QCOMPARE(desk_->text("txtid"), "");
+    QCOMPARE(desk_->items("cmbOrdenador"), QStringList{"Célia Prado"});
+    QCOMPARE(desk_->items("cmbTipo"), QStringList{"Curso"});
+  }
+
+  void keepsWhatWasChosenWhenAListDropsDown() {
+    desk_->openNew();
+    desk_->fillRequisition();
+    for (const char* name : {"cmbOrgao", "cmbResponsavel", "cmbficha"}) {
+      const QString before = desk_->text(name);
+      emit desk_->combo(name)->dropDown();
+      QCOMPARE(desk_->text(name), before);
+    }
+    QCOMPARE(desk_->text("txtid"), "RG: 11.111 - CPF: 111.111.111-11");
+  }
+
+  void neitherTypingNorTheWheelChangesAList() {
+    desk_->openProcess();
+    desk_->type("cmbficha", "7");
+    QCOMPARE(desk_->text("cmbficha"), "99");
+    QWidget* box = desk_->widget("cmbOrgao");
+    box->setFocus();
+    QWheelEvent wheel(QPointF(5, 5), box->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(box, &wheel);
+    QCOMPARE(desk_->text("cmbOrgao"), "Saúde");
+  }
+
+  void listsInactiveOrderersOnlyWhenEditing() {
+    desk_->openProcess();
+    QCOMPARE(desk_->items("cmbOrdenador"), QStringList({"Ana Lima", "Beto Reis"}));
+  }
+
+  void asksForEveryRequiredField_data() {
+    QTest::addColumn<QByteArray>("field");
+    for (const char* name : {"cmbOrgao", "cmbOrdenador", "cmbResponsavel", "cmbTipo", "cmbficha",
+                             "mskvalor", "txtjustificativa"}) {
+      QTest::newRow(name) << QByteArray(name);
+    }
+  }
+  void asksForEveryRequiredField() {
+    QFETCH(QByteArray, field);
+    desk_->openNew();
+    desk_->fillRequisition();
+    QWidget* empty = desk_->widget(field.constData());
+    if (auto* combo = qobject_cast<ComboBox*>(empty)) {
+      combo->setText({});
+      combo->setCurrentIndex(-1);
+    } else {
+      QMetaObject::invokeMethod(empty, "clear");
+    }
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Todos os campos obrigatórios devem ser preenchidos!!"));
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->focused(), QString::fromLatin1(field));
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM Requisicao"), "1");
+  }
+
+  void focusesTheLastOfSeveralEmptyFields() {
+    desk_->openNew();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Todos os campos obrigatórios devem ser preenchidos!!"));
+    desk_->click("cmdAplicar");
+    QCOMPARE(desk_->focused(), "txtjustificativa");
+  }
+
+  void savesANewRequisitionAndMovesTheCounter() {
+    desk_->openNew();
+    desk_->fillRequisition();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saved());
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask(
+                 "SELECT DATA||'|'||ORGAO||'|'||TOMADOR||'|'||VALOR||'|'||FINALIDADE||'|'||"
+                 "JUSTIFICATIVA||'|'||FICHA FROM Requisicao WHERE SEQ = 32814"),
+             "2014-11-21 00:00:00|1|1|15005000|1|Compras miúdas|128");
+    QCOMPARE(counter(), "0328");
+    QCOMPARE(desk_->mainList().count(), 2);
+    QVERIFY(desk_->isOpen());
+  }
+
+  void aNumberShownButNotSavedIsOfferedAgain() {
+    desk_->openNew();
+    QCOMPARE(desk_->text("mskprocesso"), "0328/14");
+    desk_->click("Command1_0");
+    QVERIFY(!desk_->isOpen());
+    QCOMPARE(counter(), "327");
+    savesANewRequisitionAndMovesTheCounter();
+    desk_->openNew();
+    QCOMPARE(desk_->text("mskprocesso"), "0329/14");
+  }
+
+  void aRefusedSaveLeavesEverything() {
+    desk_->openNew();
+    desk_->fillRequisition();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::No);
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->enabled("cmdAplicar cmdOk cmdImprimir"), "100");
+    QCOMPARE(desk_->text("txtjustificativa"), "Compras miúdas");
+    QCOMPARE(counter(), "327");
+  }
+
+  void aFailedSaveIsToldAndLosesNothing() {
+    desk_->office().run("INSERT INTO Requisicao(SEQ) VALUES (32814)");
+    desk_->openNew();
+    desk_->fillRequisition();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox({.text = test::kAnything, .icon = BoxIcon::Stop});
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->text("mskvalor"), "1.500,50");
+    QCOMPARE(desk_->enabled("cmdAplicar"), "1");
+  }
+
+  // The first test goes by the places in the lists: person 1 stands at place 0, and process 12 is
+  // of person 1 and type 1, so only places (1, 1) find it.
+  void warnsByPlacesInTheLists_data() {
+    QTest::addColumn<QString>("person");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<bool>("warned");
+    QTest::newRow("the very person and type") << "Davi Souza"
+                                              << "Miúdas" << false;
+    QTest::newRow("others at those places") << "Fábio Dias"
+                                            << "Viagem" << true;
+  }
+  void warnsByPlacesInTheLists() {
+    QFETCH(QString, person);
+    QFETCH(QString, type);
+    QFETCH(bool, warned);
+    desk_->openNew();
+    desk_->fillRequisition();
+    desk_->pick("cmbResponsavel", person);
+    desk_->pick("cmbTipo", type);
+    desk_->combo("cmbficha")->setText("128");
+    ScriptedDialogs dialogs;
+    if (warned) {
+      dialogs.expectBox(openAdvance(), Button::Cancel);
+      desk_->click("cmdAplicar");
+      dialogs.expectBox(openAdvance(), Button::Ok);
+    }
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saved());
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(
+        desk_->office().ask("SELECT TOMADOR||'|'||FINALIDADE FROM Requisicao WHERE SEQ = 32814"),
+        warned ? "3|2" : "1|1");
+  }
+
+  void loadsAProcess() {
+    desk_->openProcess();
+    const QList<QPair<const char*, QString>> shown{
+        {"mskprocesso", "0012/14"},
+        {"dtpdata", "03/11/2014"},
+        {"mskvalor", "1.000,00"},
+        {"cmbOrgao", "Saúde"},
+        {"cmbOrdenador", "Ana Lima"},
+        {"cmbResponsavel", "Davi Souza"},
+        {"cmbTipo", "Miúdas"},
+        {"txtcargo", "Motorista"},
+        {"txtid", "RG: 11.111 - CPF: 111.111.111-11"},
+        {"cmbficha", "99"},
+        {"txtjustificativa", "Despesas de pronto pagamento"}};
+    for (const auto& [name, text] : shown) {
+      QCOMPARE(desk_->text(name), text);
+    }
+    QVERIFY(!desk_->widget("mskprocesso")->isEnabled());
+  }
+
+  void altersAProcessWithoutWarningOrCounter() {
+    desk_->office().run("UPDATE Requisicao SET TOMADOR = 3, FINALIDADE = 2");
+    desk_->openProcess();
+    desk_->type("mskvalor", "2000");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askAlteration(), Button::Yes);
+    dialogs.expectBox(boxes::altered());
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask("SELECT VALOR||'|'||FICHA FROM Requisicao"), "20000000|99");
+    QCOMPARE(counter(), "327");
+    QCOMPARE(desk_->enabled("cmdAplicar cmdOk cmdImprimir"), "011");
+  }
+
+  void aNumberBeyondSixteenBitsFailsToLoad() {
+    desk_->office().run("UPDATE Requisicao SET SEQ = 32814");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::internalError(ErrorNumber::Overflow, "Função Carrega_dados"));
+    desk_->openProcess("0328/14");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+    QCOMPARE(desk_->enabled("cmdnovo cmdalterar cmdexcluir"), "000");
+  }
+
+  void aKeyThatIsNotListedEndsTheLoading() {
+    desk_->office().run("UPDATE Requisicao SET FINALIDADE = 3");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(
+        boxes::internalError(ErrorNumber::SubscriptOutOfRange, "Função Carrega_dados"));
+    desk_->openProcess();
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->text("cmbOrdenador"), "Ana Lima");
+    QCOMPARE(desk_->enabled("cmdnovo cmdImprimir"), "01");
+  }
+
+  void anEmptyMainListEndsTheLoading() {
+    desk_->mainList().clear();
+    ModoAlteracao = -1;
+    Tag_principal = "0012/14";
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(
+        boxes::internalError(ErrorNumber::SubscriptOutOfRange, "Função Carrega_dados"));
+    desk_->show();
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->text("cmbficha"), "99");
+    QCOMPARE(desk_->enabled("mskprocesso cmdnovo"), "10");
+  }
+
+  void aCounterThatCannotBeWrittenIsToldAfterTheSave() {
+    desk_->openNew();
+    desk_->fillRequisition();
+    caminhos.number = desk_->office().file("nowhere/Number.Ini");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saved());
+    dialogs.expectBox({.text = test::kAnything, .icon = BoxIcon::Stop});
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->enabled("cmdAplicar cmdOk cmdImprimir"), "011");
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM Requisicao"), "2");
+  }
+
+  void staysAboveTheMainWindow() {
+    QWidget main;
+    main.setObjectName("frmOficce");
+    OpenForms::add(&main);
+    desk_->openNew();
+    QCOMPARE(desk_->window()->parentWidget(), &main);
+    QVERIFY(desk_->window()->isWindow());
+    QVERIFY(!desk_->window()->isModal());
+  }
+
+  void refusesDatesOutOfTime_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("before 1997") << "31121996";
+    QTest::newRow("after 2100") << "01012101";
+    QTest::newRow("no such day") << "31022014";
+    QTest::newRow("half a date") << "1511";
+  }
+  void refusesDatesOutOfTime() {
+    QFETCH(QString, typed);
+    desk_->openProcess();
+    desk_->type("dtpdata", typed);
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Data inválida!!"));
+    desk_->widget("mskvalor")->setFocus();
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->focused(), "dtpdata");
+    QCOMPARE(desk_->text("dtpdata"), "03/11/2014");
+  }
+
+  void showsADateOlderThanWhatCanBeTyped() {
+    desk_->office().run("UPDATE Requisicao SET DATA = '1995-05-01 00:00:00'");
+    desk_->openProcess();
+    QCOMPARE(desk_->text("dtpdata"), "01/05/1995");
+  }
+
+  void printsTheForm() {
+    test::PrintedReports printed;
+    desk_->openProcess();
+    desk_->click("cmdImprimir");
+    QCOMPARE(printed.requests.size(), 1);
+    QVERIFY(printed.requests[0].relatorio == Relatorio::Requisicao2);
+    QCOMPARE(printed.requests[0].comando,
+             "Select * from Sel_Print_req WHERE Requisicao.SEQ = 001214");
+    QVERIFY(printed.requests[0].exibe);
+    QVERIFY(!desk_->isOpen());
+  }
+
+  void aReportThatFailsIsTold() {
+    registra_impressao(Relatorio::Requisicao2, [](const PedidoImpressao&) {
+      throw RuntimeError(ErrorNumber::PrinterFailure);
+    });
+    desk_->openProcess();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::internalError(ErrorNumber::PrinterFailure, "Função imprimir"));
+    desk_->click("cmdImprimir");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+  }
+
+  void okRefreshesAndCloses() {
+    desk_->openNew();
+    savedState();
+    desk_->office().run("DELETE FROM Requisicao");
+    desk_->click("cmdOk");
+    QVERIFY(!desk_->isOpen());
+    QCOMPARE(desk_->mainList().count(), 0);
+  }
+
+  void escapeAsksBeforeTypingIsLost() {
+    desk_->openNew();
+    desk_->fillRequisition();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    QTest::keyClick(desk_->widget("txtjustificativa"), Qt::Key_Escape);
+    QVERIFY(desk_->isOpen());
+    QCOMPARE(desk_->text("txtjustificativa"), "Compras miúdas");
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    QTest::keyClick(desk_->widget("txtjustificativa"), Qt::Key_Escape);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(!desk_->isOpen());
+  }
+
+  void escapeWithNothingTypedJustCloses() {
+    desk_->openProcess();
+    QTest::keyClick(desk_->widget("txtjustificativa"), Qt::Key_Escape);
+    QVERIFY(!desk_->isOpen());
+  }
+
+ private:
+  static Box openAdvance() {
+    return {.text = "Há um adiantamento nesta finalidade já aberto !!!",
+            .title = "Aviso",
+            .icon = BoxIcon::Exclamation,
+            .buttons = {Button::Ok, Button::Cancel},
+            .defaultButton = Button::Cancel};
+  }
+  static QString expected() {
+    QFETCH(QString, enabled);
+    return enabled;
+  }
+  QString counter() {
+    QFile file(desk_->office().counter());
+    if (!file.open(QIODevice::ReadOnly)) {
+      return {};
+    }
+    return QString::fromUtf8(file.readAll()).section("number=", 1).trimmed();
+  }
+  void savedState() {
+    desk_->fillRequisition();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saved());
+    desk_->click("cmdAplicar");
+  }
+  void enter(const QString& state) {
+    if (state == "new") {
+      desk_->openNew();
+    } else if (state == "saved") {
+      desk_->openNew();
+      savedState();
+    } else if (state == "existing") {
+      desk_->openProcess();
+    } else if (state == "stale") {
+      registra_lista_principal(nullptr, nullptr);
+      desk_->addEmpenho();
+      desk_->openProcess();
+    } else if (state == "novo") {
+      desk_->openProcess();
+      desk_->click("cmdnovo");
+    } else {
+      desk_->addEmpenho();
+      desk_->openProcess();
+      if (state == "alterar") {
+        test::ProcessDesk::clickRow(desk_->list("lstEmpenho"), 0);
+        desk_->click("cmdalterar");
+      }
+    }
+  }
+
+  std::unique_ptr<test::ProcessDesk> desk_;
+};
+
+}  // namespace quartela
+
+QUARTELA_OFFICE_TEST_MAIN(quartela::frmCadastroRequisicaoTest)
+#include "frmCadastro_requisicao_test.moc"
