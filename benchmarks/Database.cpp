@@ -156,15 +156,21 @@ void benchRecordset() {
   Engine engine(benchmarkDatabase());
   const std::string sql = dialect::translate(kAllProcesses, Conexao->catalogue()).sql;
   sqlite3_stmt* statement = engine.prepare(sql);
-  const auto [ours, peer] =
-      medians(9, [] { loadAndRead(); }, [&] { copyEachCell(statement); });
+  const auto [ours, peer] = medians(
+      9, [] { loadAndRead(); }, [&] { copyEachCell(statement); });
   print({.measure = QStringLiteral("100,000 x 13 into a Recordset, each cell read | C API, copied"),
-         .ours = ours / 1000, .peer = peer / 1000, .target = 1.5, .unit = QStringLiteral("ms")});
+         .ours = ours / 1000,
+         .peer = peer / 1000,
+         .target = 1.5,
+         .unit = QStringLiteral("ms")});
   const double bytes = copyEachCell(statement).bytes;
   sqlite3_finalize(statement);
   const double growth = peakGrowth([] { loadAndRead(); });
   print({.measure = QStringLiteral("  its memory at the peak | bytes of the cells"),
-         .ours = growth / 1e6, .peer = bytes / 1e6, .target = 3, .unit = QStringLiteral("MB")});
+         .ours = growth / 1e6,
+         .peer = bytes / 1e6,
+         .target = 3,
+         .unit = QStringLiteral("MB")});
   Fecha_banco();
 }
 
@@ -172,7 +178,8 @@ void benchDialect() {
   openConnection(benchmarkDatabase());
   const QString longest = QStringLiteral(
       "SELECT Requisicao.SEQ, Tomador.NOME1, Tipos.ELEMENTO, Adiantamento.ABERTURA, "
-      "Adiantamento.EMPENHO, Adiantamento.RETIRADA, Adiantamento.FECHAR_EM, Adiantamento.FECHAMENTO, "
+      "Adiantamento.EMPENHO, Adiantamento.RETIRADA, Adiantamento.FECHAR_EM, "
+      "Adiantamento.FECHAMENTO, "
       "(Adiantamento.FECHAMENTO - Adiantamento.RETIRADA)AS DIAS "
       "FROM Tipos INNER JOIN ((Tomador INNER JOIN Requisicao ON Tomador.ID = Requisicao.TOMADOR) "
       "INNER JOIN Adiantamento ON Requisicao.SEQ = Adiantamento.PROCESSO) ON Tipos.SEQUENCIA = "
@@ -181,7 +188,8 @@ void benchDialect() {
   const Catalogue& catalogue = Conexao->catalogue();
   print({.measure = QStringLiteral("the longest statement to engine text"),
          .ours = median(2'001, [&] { dialect::translate(longest, catalogue); }),
-         .target = 40, .unit = QStringLiteral("us")});
+         .target = 40,
+         .unit = QStringLiteral("us")});
   Fecha_banco();
 }
 
@@ -213,7 +221,10 @@ void benchSave() {
       [&] { insertByEngine(insert, ++peerSeq, justification); });
   sqlite3_finalize(insert);
   print({.measure = QStringLiteral("Save_req | the same insert by the C API"),
-         .ours = ours, .peer = peer, .target = 1.3, .unit = QStringLiteral("us")});
+         .ours = ours,
+         .peer = peer,
+         .target = 1.3,
+         .unit = QStringLiteral("us")});
   Fecha_banco();
 }
 
@@ -222,15 +233,17 @@ void benchLike() {
   const QString path = folder.filePath(QStringLiteral("names.mdb"));
   makeTown(path, 100, 700);
   Engine engine(path);
-  engine.run("INSERT INTO Tomador(NOME1, ATIVO) WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL "
-             "SELECT i + 1 FROM n WHERE i < 2000) SELECT NOME1, 1 FROM Tomador, n LIMIT 100000");
+  engine.run(
+      "INSERT INTO Tomador(NOME1, ATIVO) WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL "
+      "SELECT i + 1 FROM n WHERE i < 2000) SELECT NOME1, 1 FROM Tomador, n LIMIT 100000");
   openConnection(path);
   sqlite3_stmt* plain = engine.prepare("SELECT count(*) FROM Tomador WHERE NOME1 LIKE '%silva%'");
   const auto [ours, peer] = medians(
       15,
       [] {
         Recordset rows;
-        rows.open(QStringLiteral("SELECT Count(*) FROM Tomador WHERE NOME1 Like '%silva%'"), *Conexao);
+        rows.open(QStringLiteral("SELECT Count(*) FROM Tomador WHERE NOME1 Like '%silva%'"),
+                  *Conexao);
       },
       [&] {
         sqlite3_step(plain);
@@ -238,7 +251,10 @@ void benchLike() {
       });
   sqlite3_finalize(plain);
   print({.measure = QStringLiteral("Like '%texto%' over 100,000 names | the engine's LIKE"),
-         .ours = ours / 1000, .peer = peer / 1000, .target = 2.5, .unit = QStringLiteral("ms")});
+         .ours = ours / 1000,
+         .peer = peer / 1000,
+         .target = 2.5,
+         .unit = QStringLiteral("ms")});
   Fecha_banco();
 }
 

@@ -31,7 +31,8 @@ const QString kStatements[] = {
                    "((Year([Requisicao].[Data])) = Year(Now()))) ORDER BY Requisicao.SEQ DESC;"),
 };
 
-// The engine's text with the clock's moment in its place and without what only our connection knows.
+// The engine's text with the clock's moment in its place and without what only our connection
+// knows.
 QString plainText(const QString& statement) {
   QString sql = QString::fromStdString(dialect::translate(statement, Conexao->catalogue()).sql);
   sql.replace(QStringLiteral("?1"), '\'' + Clock::now().toIso() + '\'');
@@ -59,8 +60,13 @@ void benchFilter(frmOficce& window, int filter) {
         view.resize(window.ListView1().size());
         fillPeer(model, view, sql);
       });
-  print({.measure = QStringLiteral("Lista_Movimento, filter %1, painted | QSqlQueryModel, QTableView").arg(filter),
-         .ours = ours / 1000, .peer = peer / 1000, .target = 1, .unit = QStringLiteral("ms")});
+  print(
+      {.measure = QStringLiteral("Lista_Movimento, filter %1, painted | QSqlQueryModel, QTableView")
+                      .arg(filter),
+       .ours = ours / 1000,
+       .peer = peer / 1000,
+       .target = 1,
+       .unit = QStringLiteral("ms")});
 }
 
 void benchListMemory(frmOficce& window) {
@@ -73,7 +79,10 @@ void benchListMemory(frmOficce& window) {
     fillPeer(model, view, sql);
   });
   print({.measure = QStringLiteral("  memory of filter 0 at the peak | the same"),
-         .ours = ours / 1e6, .peer = peer / 1e6, .target = 1, .unit = QStringLiteral("MB")});
+         .ours = ours / 1e6,
+         .peer = peer / 1e6,
+         .target = 1,
+         .unit = QStringLiteral("MB")});
 }
 
 void benchSort(frmOficce& window) {
@@ -98,13 +107,17 @@ void benchSort(frmOficce& window) {
         paint(view);
       });
   print({.measure = QStringLiteral("a click on a column header | QSortFilterProxyModel"),
-         .ours = ours / 1000, .peer = peer / 1000, .target = 0.5, .unit = QStringLiteral("ms")});
+         .ours = ours / 1000,
+         .peer = peer / 1000,
+         .target = 0.5,
+         .unit = QStringLiteral("ms")});
 }
 
 void benchNameSearch() {
   cTodos::compartilhada().Nome = QStringLiteral("silva");
-  const QString sql = plainText(QStringLiteral("SELECT * FROM Sel_Req_left  WHERE Tomador.NOME1 = 'x'"))
-                          .replace(QStringLiteral("= 'x'"), QStringLiteral("LIKE '%silva%'"));
+  const QString sql =
+      plainText(QStringLiteral("SELECT * FROM Sel_Req_left  WHERE Tomador.NOME1 = 'x'"))
+          .replace(QStringLiteral("= 'x'"), QStringLiteral("LIKE '%silva%'"));
   sqlite3* handle = nullptr;
   sqlite3_open(benchmarkDatabase().toUtf8().constData(), &handle);
   sqlite3_stmt* statement = nullptr;
@@ -115,7 +128,8 @@ void benchNameSearch() {
         std::vector<std::string> cells;
         while (sqlite3_step(statement) == SQLITE_ROW) {
           for (int column = 0; column < sqlite3_column_count(statement); ++column) {
-            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+            const auto* text =
+                reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
             cells.emplace_back(text == nullptr ? "" : text);
           }
         }
@@ -124,7 +138,10 @@ void benchNameSearch() {
   sqlite3_finalize(statement);
   sqlite3_close(handle);
   print({.measure = QStringLiteral("a name search (code 5) | the same SQL by the C API"),
-         .ours = ours / 1000, .peer = peer / 1000, .target = 1.3, .unit = QStringLiteral("ms")});
+         .ours = ours / 1000,
+         .peer = peer / 1000,
+         .target = 1.3,
+         .unit = QStringLiteral("ms")});
 }
 
 void benchRibbon(frmOficce& window) {
@@ -132,14 +149,18 @@ void benchRibbon(frmOficce& window) {
   int step = 0;
   const double move = median(2'001, [&] {
     const QPointF place(20 + step++ % 800, 50);
-    QMouseEvent event(QEvent::MouseMove, place, ribbon.mapToGlobal(place), Qt::NoButton, Qt::NoButton,
-                      Qt::NoModifier);
+    QMouseEvent event(QEvent::MouseMove, place, ribbon.mapToGlobal(place), Qt::NoButton,
+                      Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(&ribbon, &event);
   });
-  print({.measure = QStringLiteral("a mouse move over the ribbon"), .ours = move, .target = 50,
+  print({.measure = QStringLiteral("a mouse move over the ribbon"),
+         .ours = move,
+         .target = 50,
          .unit = QStringLiteral("us")});
   const double refresh = median(101, [&] { ribbon.Refresh(); });
-  print({.measure = QStringLiteral("Refresh of the ribbon"), .ours = refresh / 1000, .target = 5,
+  print({.measure = QStringLiteral("Refresh of the ribbon"),
+         .ours = refresh / 1000,
+         .target = 5,
          .unit = QStringLiteral("ms")});
 }
 

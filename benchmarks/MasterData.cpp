@@ -51,7 +51,8 @@ const Case kCases[] = {
     {"Orgao", 2, false, [](ListView& list) { cOrgao::compartilhada().Lista_Orgao(list, 0); }},
     {"Finalidade", 2, false,
      [](ListView& list) { cTipoDespesa::compartilhada().Lista_Finalidade(list, 0); }},
-    {"Executor", 6, true, [](ListView& list) { cExecutor::compartilhada().Lista_Executor(list, 0); }},
+    {"Executor", 6, true,
+     [](ListView& list) { cExecutor::compartilhada().Lista_Executor(list, 0); }},
     {"Tomador", 5, true, [](ListView& list) { cTomador::compartilhada().Lista_Tomador(list, 0); }},
     {"Tipos", 5, true, [](ListView& list) { cTipos::compartilhada().Lista_Tipos(list, 0); }},
     {"Inciso", 5, true, [](ListView& list) { cInciso::compartilhada().Lista_Inciso(list); }},
@@ -82,7 +83,10 @@ void benchCase(const Case& each, const QSqlDatabase& database) {
       });
   print({.measure = QStringLiteral("list of %1, painted | QSqlTableModel, QTableView")
                         .arg(QLatin1String(each.table)),
-         .ours = ours / 1000, .peer = peer / 1000, .target = 1, .unit = QStringLiteral("ms")});
+         .ours = ours / 1000,
+         .peer = peer / 1000,
+         .target = 1,
+         .unit = QStringLiteral("ms")});
 }
 
 }  // namespace

@@ -22,8 +22,8 @@ double peakGrowth(const Work& work);
 struct Row {
   QString measure;
   double ours = 0;
-  double peer = 0;       // 0: the target is absolute
-  double target = 0;     // the most that ours/peer may be; without a peer the most that ours may be
+  double peer = 0;    // 0: the target is absolute
+  double target = 0;  // the most that ours/peer may be; without a peer the most that ours may be
   QString unit;
 };
 

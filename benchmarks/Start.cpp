@@ -53,9 +53,13 @@ int showEmptyWindowOnce(int argc, char** argv) {
 
 void benchStart() {
   const auto [ours, peer] = medians(
-      15, [] { runChild(QStringLiteral("--show-login")); }, [] { runChild(QStringLiteral("--show-empty")); });
+      15, [] { runChild(QStringLiteral("--show-login")); },
+      [] { runChild(QStringLiteral("--show-empty")); });
   print({.measure = QStringLiteral("start to a painted login | an empty window with a button"),
-         .ours = ours / 1000, .peer = peer / 1000, .target = 1.5, .unit = QStringLiteral("ms")});
+         .ours = ours / 1000,
+         .peer = peer / 1000,
+         .target = 1.5,
+         .unit = QStringLiteral("ms")});
 }
 
 }  // namespace quartela::bench

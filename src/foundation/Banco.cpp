@@ -30,8 +30,8 @@ void le_caminhos() {
   caminhos.transporte = le("transporte");
 }
 
-// Where a file does stand at the path, the operator is told why it is not taken; where none does, the
-// settings screen speaks for itself.
+// Where a file does stand at the path, the operator is told why it is not taken; where none does,
+// the settings screen speaks for itself.
 void pede_caminho(const RuntimeError& erro) {
   if (QFileInfo::exists(nativePath(caminhos.geral))) {
     Dialogs::exclamation(erro.description());

@@ -1,5 +1,5 @@
-// The program-wide database objects: the one connection, the one shared recordset, the statement being
-// assembled. Only the record classes, the common routines and the routines below name them.
+// The program-wide database objects: the one connection, the one shared recordset, the statement
+// being assembled. Only the record classes, the common routines and the routines below name them.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,8 @@
 
 namespace quartela {
 
-// Never null: before Abre_banco and after Fecha_banco it is a closed connection (error 3704 at any use).
+// Never null: before Abre_banco and after Fecha_banco it is a closed connection (error 3704 at any
+// use).
 extern std::unique_ptr<Connection> Conexao;
 extern Recordset Tabela;
 extern QString Sql_atual;
@@ -25,11 +26,12 @@ struct Caminhos {
 };
 extern Caminhos caminhos;
 
-// Reads the paths, opens Conexao and shows the splash. A path that leads to no database (errors 3024
-// and 3044) shows the settings screen instead; any other failure ends it with nothing shown.
+// Reads the paths, opens Conexao and shows the splash. A path that leads to no database (errors
+// 3024 and 3044) shows the settings screen instead; any other failure ends it with nothing shown.
 void Abre_banco();
 
-// Puts a fresh, open connection on the file in force into Conexao. Raises what Connection::open does.
+// Puts a fresh, open connection on the file in force into Conexao. Raises what Connection::open
+// does.
 void Abre_conexao();
 
 // Closes Tabela and Conexao and gives them up.

@@ -2,7 +2,7 @@
 
 #include <QMenu>
 
-#include "masterdata/Evento.h"
+#include "foundation/Evento.h"
 #include "platform/controls/ListView.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Convert.h"

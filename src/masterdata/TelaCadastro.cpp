@@ -9,9 +9,9 @@
 #include <QVBoxLayout>
 
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
 #include "masterdata/Escape.h"
-#include "masterdata/Evento.h"
 #include "masterdata/ItemCadastro.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/TwoPageTab.h"

@@ -3,9 +3,9 @@
 #include <QLineEdit>
 
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
 #include "masterdata/Escape.h"
-#include "masterdata/Evento.h"
 #include "masterdata/ItemCadastro.h"
 #include "masterdata/TelaCadastro.h"
 #include "masterdata/cInciso.h"

@@ -3,8 +3,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
-#include "masterdata/Evento.h"
 #include "masterdata/ItemCadastro.h"
 #include "masterdata/TelaCadastro.h"
 #include "masterdata/cTipos.h"

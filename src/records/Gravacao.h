@@ -14,14 +14,14 @@ inline constexpr std::int16_t kAlteracao = 2;
 
 // What a class gives to the saving.
 struct Gravacao {
-  QString tabela;                       // the table to add to
-  QString selecao;                      // the select of the row to alter
-  std::function<void()> grava_campos;   // copies the properties into Tabela's current row
-  bool pergunta_inclusao = true;        // notes are entered in a row, without a question each
+  QString tabela;                      // the table to add to
+  QString selecao;                     // the select of the row to alter
+  std::function<void()> grava_campos;  // copies the properties into Tabela's current row
+  bool pergunta_inclusao = true;       // notes are entered in a row, without a question each
 };
 
-// Asks, writes the row and tells the operator. True only when the row has been written; a failure is
-// told in the "Erro n°: " box.
+// Asks, writes the row and tells the operator. True only when the row has been written; a failure
+// is told in the "Erro n°: " box.
 bool Salva_registro(std::int16_t codigo, const Gravacao& gravacao);
 
 // Writes a new row with no question and no word; a failure is told.

@@ -30,8 +30,8 @@ void propoe_numero(QLineEdit& destino, const QString& arquivo) {
   const QString ano = QString::number(Clock::now().year());
   const std::int32_t diferenca = Convert::toI32(ano) - le_ano(arquivo);
   if (diferenca < 0) {
-    Dialogs::box({.text = QStringLiteral(
-                      "Erro no relógio do micro ou o arquivo INI está adulterado.")});
+    Dialogs::box(
+        {.text = QStringLiteral("Erro no relógio do micro ou o arquivo INI está adulterado.")});
     return;
   }
   if (diferenca > 0) {

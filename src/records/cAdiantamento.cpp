@@ -20,7 +20,8 @@ void adiciona_empenho(ListView& lista) {
     return Format(Tabela.field(posicao), formato);
   };
   lista.addRow({campo(0, u"00000/00"), campo(1, kData), campo(2, kData), campo(3, kData),
-                campo(4, kData), campo(5, kValor), campo(6, kData), Convert::toText(Tabela.field(7)),
+                campo(4, kData), campo(5, kValor), campo(6, kData),
+                Convert::toText(Tabela.field(7)),
                 Convert::toBool(Tabela.field(8)) ? QStringLiteral("SIM") : QStringLiteral("NÃO")});
 }
 
@@ -32,8 +33,9 @@ cAdiantamento& cAdiantamento::compartilhada() {
 }
 
 void cAdiantamento::Del_ad() {
-  Exclui_registro(QStringLiteral("DELETE FROM Adiantamento where EMPENHO = ") + QString::number(Empenho),
-                  OrdemDesfaz::DepoisDaCaixa);
+  Exclui_registro(
+      QStringLiteral("DELETE FROM Adiantamento where EMPENHO = ") + QString::number(Empenho),
+      OrdemDesfaz::DepoisDaCaixa);
 }
 
 void cAdiantamento::Save_ad(std::int16_t codigo) {
@@ -60,13 +62,12 @@ void cAdiantamento::Grava_campos() const {
 
 void cAdiantamento::Lista_Adiantamento(ListView& lista) {
   Lista_sob_trava(QStringLiteral("Função Lista_Adiantamento"), [&] {
-    Sql_atual =
-        QStringLiteral(
-            "SELECT Adiantamento.EMPENHO, Adiantamento.ABERTURA, Adiantamento.RETIRADA, "
-            "Adiantamento.FECHAR_EM, Adiantamento.FECHAMENTO, Adiantamento.DEVOLUCAO, "
-            "Adiantamento.DATADEV, Adiantamento.OP, Adiantamento.ANULADO From Adiantamento "
-            "WHERE Adiantamento.PROCESSO =") +
-        QString::number(processo);
+    Sql_atual = QStringLiteral(
+                    "SELECT Adiantamento.EMPENHO, Adiantamento.ABERTURA, Adiantamento.RETIRADA, "
+                    "Adiantamento.FECHAR_EM, Adiantamento.FECHAMENTO, Adiantamento.DEVOLUCAO, "
+                    "Adiantamento.DATADEV, Adiantamento.OP, Adiantamento.ANULADO From Adiantamento "
+                    "WHERE Adiantamento.PROCESSO =") +
+                QString::number(processo);
     lista.clear();
     Abre_consulta(Sql_atual);
     Cede_vez();
@@ -95,8 +96,9 @@ Money cAdiantamento::Soma_despesas() {
 bool cAdiantamento::Encerra_adiantamento() {
   bool gravado = false;
   Sob_trava(QStringLiteral("Encerra_adiantamento"), [&] {
-    Sql_atual = QStringLiteral("Select EMPENHO, FECHAMENTO, DEVOLUCAO, DATADEV From Adiantamento "
-                               "WHERE EMPENHO =") +
+    Sql_atual = QStringLiteral(
+                    "Select EMPENHO, FECHAMENTO, DEVOLUCAO, DATADEV From Adiantamento "
+                    "WHERE EMPENHO =") +
                 QString::number(Empenho);
     Tabela.close();
     Tabela.open(Sql_atual, *Conexao, CursorType::Static, LockType::Pessimistic);
@@ -116,9 +118,9 @@ bool cAdiantamento::Encerra_adiantamento() {
 }
 
 void cAdiantamento::Dados_Planilha() {
-  Carrega_registro(
-      QStringLiteral("Select * From Sel_Planilha WHERE Requisicao.SEQ =") + QString::number(processo),
-      [this] { Le_planilha(); });
+  Carrega_registro(QStringLiteral("Select * From Sel_Planilha WHERE Requisicao.SEQ =") +
+                       QString::number(processo),
+                   [this] { Le_planilha(); });
 }
 
 void cAdiantamento::Le_planilha() {

@@ -25,7 +25,7 @@ class cAdiantamento {
   const QString& Orgao() const { return orgao_; }
 
   std::int32_t OP = 0;
-  std::int16_t Nulo = 0;         // used as a bool: annulled
+  std::int16_t Nulo = 0;  // used as a bool: annulled
   // The process number; for Soma_despesas the caller puts the empenho number here.
   std::int32_t processo = 0;
   std::int32_t Empenho = 0;
@@ -40,8 +40,8 @@ class cAdiantamento {
   // Deletes the row of Empenho with its notes.
   void Del_ad();
 
-  // Saves the row of Empenho; `codigo` 1 adds it, any other value alters it. The caller cannot tell a
-  // refusal from a success.
+  // Saves the row of Empenho; `codigo` 1 adds it, any other value alters it. The caller cannot tell
+  // a refusal from a success.
   void Save_ad(std::int16_t codigo);
 
   // Fills the list with the empenhos of `processo`.
@@ -50,12 +50,12 @@ class cAdiantamento {
   // The notes of the empenho in `processo`, rounded to cents; 0 without notes or on a failure.
   Money Soma_despesas();
 
-  // Writes Fechamento, Devolucao and Datadev (an empty text becomes null) to the row of Empenho; with
-  // null, 0 and null it reopens. True when the row was written.
+  // Writes Fechamento, Devolucao and Datadev (an empty text becomes null) to the row of Empenho;
+  // with null, 0 and null it reopens. True when the row was written.
   bool Encerra_adiantamento();
 
-  // Reads the summary of `processo`; without an empenho the properties keep their values. Raises what
-  // the reading raises.
+  // Reads the summary of `processo`; without an empenho the properties keep their values. Raises
+  // what the reading raises.
   void Dados_Planilha();
 
  private:

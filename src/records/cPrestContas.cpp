@@ -19,10 +19,10 @@ const QString kPorData = QStringLiteral(" ORDER BY PrestContas.DATA, PrestContas
 
 void adiciona_nota(ListView& lista, Money& total) {
   total += Convert::toMoney(Tabela.field(4));
-  const int linha = lista.addRow(
-      {Format(Tabela.field(0), u"0000"), Format(Tabela.field(1), u"dd/MM/yyyy"),
-       Convert::toText(Tabela.field(2)), Convert::toText(Tabela.field(3)),
-       Format(Tabela.field(4), kValor), Format(total, kValor)});
+  const int linha =
+      lista.addRow({Format(Tabela.field(0), u"0000"), Format(Tabela.field(1), u"dd/MM/yyyy"),
+                    Convert::toText(Tabela.field(2)), Convert::toText(Tabela.field(3)),
+                    Format(Tabela.field(4), kValor), Format(total, kValor)});
   lista.ensureVisible(linha);
 }
 
@@ -42,9 +42,9 @@ void cPrestContas::Save_prest(std::int16_t codigo) {
 }
 
 void cPrestContas::Save_import() {
-  Salva_calado({.tabela = QStringLiteral("PrestContas"),
-                .selecao = {},
-                .grava_campos = [this] { Grava_campos(); }});
+  Salva_calado({.tabela = QStringLiteral("PrestContas"), .selecao = {}, .grava_campos = [this] {
+                  Grava_campos();
+                }});
 }
 
 void cPrestContas::Grava_campos() const {
@@ -61,7 +61,8 @@ void cPrestContas::Del_prest() {
 }
 
 void cPrestContas::Del_prest_todos() {
-  Sql_atual = QStringLiteral("DELETE From PrestContas WHERE PROCESSO =") + QString::number(processo);
+  Sql_atual =
+      QStringLiteral("DELETE From PrestContas WHERE PROCESSO =") + QString::number(processo);
   Exclui_registro(Sql_atual, OrdemDesfaz::AntesDaCaixa, AvisoExclusao::Nenhum);
 }
 

@@ -1,5 +1,6 @@
-// A note that the responsible person presents against an empenho: one row of "PrestContas". Saves it
-// with or without words, deletes one or all of an empenho, lists them with a running total, loads one.
+// A note that the responsible person presents against an empenho: one row of "PrestContas". Saves
+// it with or without words, deletes one or all of an empenho, lists them with a running total,
+// loads one.
 //
 // One instance serves the whole program and outlives the screens.
 #pragma once
@@ -18,11 +19,11 @@ class cPrestContas {
  public:
   static cPrestContas& compartilhada();
 
-  std::int16_t Seq = 0;         // an entry above 32767 can be stored but not addressed
-  std::int16_t ID_Viagem = 0;   // 0 or the key of a travel sheet
-  std::int32_t processo = 0;    // the empenho number
+  std::int16_t Seq = 0;        // an entry above 32767 can be stored but not addressed
+  std::int16_t ID_Viagem = 0;  // 0 or the key of a travel sheet
+  std::int32_t processo = 0;   // the empenho number
   DateTime Data;
-  QString Ordem;                // the fiscal document's number
+  QString Ordem;  // the fiscal document's number
   QString Historico;
   Money Despesas;
 
@@ -35,8 +36,8 @@ class cPrestContas {
   // Deletes all notes of `processo`, with the animation and no closing word.
   void Del_prest_todos();
 
-  // Fills the list with the notes of `processo`, by date and key, with a running total; gives the total
-  // in cents. After a failure the list holds the rows up to it.
+  // Fills the list with the notes of `processo`, by date and key, with a running total; gives the
+  // total in cents. After a failure the list holds the rows up to it.
   Money Lista_Prest(ListView& lista);
 
   // Adds a note with no question and no word; only a failure is told.
@@ -45,8 +46,8 @@ class cPrestContas {
   // Whether `processo` has notes.
   bool Verifica_Prest();
 
-  // Loads the note of that key; without one the properties keep their values. Raises what the reading
-  // and the conversion of an empty column (13) raise.
+  // Loads the note of that key; without one the properties keep their values. Raises what the
+  // reading and the conversion of an empty column (13) raise.
   void Envia_dados(std::int16_t numero);
 
  private:

@@ -37,13 +37,13 @@ void cRequisicao::Del_req() {
 }
 
 bool cRequisicao::Verifica_registro() {
-  Sql_atual = QStringLiteral(
-                  "SELECT Requisicao.TOMADOR, Requisicao.FINALIDADE, Adiantamento.FECHAMENTO "
-                  "FROM Requisicao LEFT JOIN Adiantamento ON Requisicao.SEQ = Adiantamento.PROCESSO "
-                  " WHERE Requisicao.TOMADOR =") +
-              QString::number(Tomador) + QStringLiteral(" And Requisicao.Finalidade = ") +
-              QString::number(Finalidade) +
-              QStringLiteral(" AND ((Adiantamento.FECHAMENTO) Is Null);");
+  Sql_atual =
+      QStringLiteral(
+          "SELECT Requisicao.TOMADOR, Requisicao.FINALIDADE, Adiantamento.FECHAMENTO "
+          "FROM Requisicao LEFT JOIN Adiantamento ON Requisicao.SEQ = Adiantamento.PROCESSO "
+          " WHERE Requisicao.TOMADOR =") +
+      QString::number(Tomador) + QStringLiteral(" And Requisicao.Finalidade = ") +
+      QString::number(Finalidade) + QStringLiteral(" AND ((Adiantamento.FECHAMENTO) Is Null);");
   Abre_consulta(Sql_atual);
   const bool aberto = Tabela.recordCount() >= 1;
   Tabela.close();

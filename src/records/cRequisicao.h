@@ -17,16 +17,16 @@ class cRequisicao {
  public:
   static cRequisicao& compartilhada();
 
-  std::int32_t Seq = 0;          // process number: yearly counter times 100 plus the two-digit year
+  std::int32_t Seq = 0;  // process number: yearly counter times 100 plus the two-digit year
   DateTime Data;
-  std::int16_t Orgao = 0;        // key of the expense orderer, Executor.ORDEM
-  std::int16_t Secretaria = 0;   // Executor.IDORGAO; filled by Envia_dados only, never saved
+  std::int16_t Orgao = 0;       // key of the expense orderer, Executor.ORDEM
+  std::int16_t Secretaria = 0;  // Executor.IDORGAO; filled by Envia_dados only, never saved
   std::int16_t Tomador = 0;
   Money Valor;
-  std::int16_t Finalidade = 0;   // key of the advance type
+  std::int16_t Finalidade = 0;  // key of the advance type
   QString Justificativa;
   QString Ficha;
-  std::int16_t Encerrado = 0;    // a mark kept for the screens, not saved
+  std::int16_t Encerrado = 0;  // a mark kept for the screens, not saved
 
   // Saves the row of Seq; `codigo` 1 adds it, any other value alters it. True when it was written.
   bool Save_req(std::int16_t codigo);
@@ -34,8 +34,8 @@ class cRequisicao {
   // Deletes the row of Seq with all that hangs on it. The caller has asked the operator already.
   void Del_req();
 
-  // Whether Tomador has a requisition of type Finalidade whose advance is not closed. One without an
-  // advance counts as open. Raises what the reading raises.
+  // Whether Tomador has a requisition of type Finalidade whose advance is not closed. One without
+  // an advance counts as open. Raises what the reading raises.
   bool Verifica_registro();
 
   // Loads the row of that process number; without one the properties keep their values. A process

@@ -58,17 +58,18 @@ int icone() {
 }
 
 void adiciona_processo(ListView& lista) {
-  const int linha = lista.addRow(
-      {formatado(kSeq, kProcesso), empenho(), formatado(kDataRequisicao, kData), texto(kSecretaria),
-       texto(kResponsavel), formatado(kValorPedido, kValor), texto(kTipo), formatado(kAbertura, kData),
-       formatado(kRetirada, kData), formatado(kFecharEm, kData), formatado(kFechamento, kData),
-       texto(kDias)});
+  const int linha =
+      lista.addRow({formatado(kSeq, kProcesso), empenho(), formatado(kDataRequisicao, kData),
+                    texto(kSecretaria), texto(kResponsavel), formatado(kValorPedido, kValor),
+                    texto(kTipo), formatado(kAbertura, kData), formatado(kRetirada, kData),
+                    formatado(kFecharEm, kData), formatado(kFechamento, kData), texto(kDias)});
   lista.setIcon(linha, icone());
 }
 
 void adiciona_procurado(ListView& lista) {
-  lista.addRow({formatado(0, kEmpenho), texto(1), texto(2), formatado(3, kValor), formatado(4, kData),
-                formatado(5, kData), formatado(6, kData), texto(7), formatado(8, kProcesso)});
+  lista.addRow({formatado(0, kEmpenho), texto(1), texto(2), formatado(3, kValor),
+                formatado(4, kData), formatado(5, kData), formatado(6, kData), texto(7),
+                formatado(8, kProcesso)});
 }
 
 void preenche(ListView& lista, const QString& comando, void (*adiciona)(ListView&)) {
@@ -91,8 +92,8 @@ cTodos& cTodos::compartilhada() {
 void cTodos::Lista_Movimento(ListView& lista, std::int16_t codigo, StatusBar& barra) {
   Lista_sob_trava(kRotulo, [&] {
     preenche(lista, comando_movimento(codigo), adiciona_processo);
-    barra.setPanelText(1, QStringLiteral("Total: %1 Registros Localizados....")
-                              .arg(Tabela.recordCount()));
+    barra.setPanelText(
+        1, QStringLiteral("Total: %1 Registros Localizados....").arg(Tabela.recordCount()));
   });
 }
 
@@ -100,8 +101,8 @@ void cTodos::Lista_Procura(ListView& lista, std::int16_t codigo) {
   Lista_sob_trava(kRotulo, [&] { preenche(lista, comando_procura(codigo), adiciona_procurado); });
 }
 
-// The search text goes into the statement as it was typed: a quote in it breaks the statement, which is
-// then refused as a whole.
+// The search text goes into the statement as it was typed: a quote in it breaks the statement,
+// which is then refused as a whole.
 QString cTodos::comando_movimento(std::int16_t codigo) const {
   const QString todos = QStringLiteral("SELECT * FROM Sel_Req_left ");
   const QString com_empenho = QStringLiteral("SELECT * FROM Sel_Req_inner ");
@@ -109,26 +110,30 @@ QString cTodos::comando_movimento(std::int16_t codigo) const {
     case 0:
       return todos + QStringLiteral(" ORDER BY Adiantamento.ABERTURA DESC;");
     case 1:
-      return todos + QStringLiteral(" Where (((Adiantamento.Fechamento) Is Null) And "
-                                    "((Year([Requisicao].[Data])) = Year(Now()))) "
-                                    "ORDER BY Requisicao.SEQ DESC;");
+      return todos + QStringLiteral(
+                         " Where (((Adiantamento.Fechamento) Is Null) And "
+                         "((Year([Requisicao].[Data])) = Year(Now()))) "
+                         "ORDER BY Requisicao.SEQ DESC;");
     case 2:
       return com_empenho + QStringLiteral(" WHERE ((Adiantamento.FECHAMENTO) Is Null);");
     case 3:
-      return todos + QStringLiteral(" WHERE (((Adiantamento.FECHAMENTO) Is Not Null) And "
-                                    "((Year([Requisicao].[Data])) = Year(Now())));");
+      return todos + QStringLiteral(
+                         " WHERE (((Adiantamento.FECHAMENTO) Is Not Null) And "
+                         "((Year([Requisicao].[Data])) = Year(Now())));");
     case 4:
-      return todos + QStringLiteral(" Where (((Adiantamento.ABERTURA) Is Null) And "
-                                    "((Year([Requisicao].[Data])) = Year(Now()))) "
-                                    "ORDER BY Requisicao.SEQ DESC;");
+      return todos + QStringLiteral(
+                         " Where (((Adiantamento.ABERTURA) Is Null) And "
+                         "((Year([Requisicao].[Data])) = Year(Now()))) "
+                         "ORDER BY Requisicao.SEQ DESC;");
     case 5:
       return todos + QStringLiteral(" WHERE Tomador.NOME1 LIKE '%") + Nome + QStringLiteral("%';");
     case 6:
       return todos + QStringLiteral(" WHERE Requisicao.SEQ =") + QString::number(Seq);
     case 7:
       return todos + QStringLiteral(" WHERE (((Tomador.NOME1) Like '%") + Nome +
-             QStringLiteral("%') And ((Adiantamento.FECHAMENTO) Is Null) And "
-                            "((Year(Requisicao.DATA))=Year(Now())));");
+             QStringLiteral(
+                 "%') And ((Adiantamento.FECHAMENTO) Is Null) And "
+                 "((Year(Requisicao.DATA))=Year(Now())));");
     case 8:
       return com_empenho + QStringLiteral(" WHERE (((Tomador.NOME1) Like '%") + Nome +
              QStringLiteral("%') AND ((Adiantamento.FECHAMENTO) Is Null));");
@@ -142,15 +147,17 @@ QString cTodos::comando_movimento(std::int16_t codigo) const {
 
 QString cTodos::comando_procura(std::int16_t codigo) const {
   const QString empenhos = QStringLiteral(
-      "SELECT Adiantamento.EMPENHO, Tomador.NOME1, Tipos.TIPO, Requisicao.VALOR, Adiantamento.RETIRADA, "
+      "SELECT Adiantamento.EMPENHO, Tomador.NOME1, Tipos.TIPO, Requisicao.VALOR, "
+      "Adiantamento.RETIRADA, "
       "Adiantamento.FECHAR_EM , Adiantamento.ABERTURA, Tomador.CARGO, Adiantamento.PROCESSO "
       "FROM Tomador INNER JOIN (Tipos INNER JOIN (Requisicao INNER JOIN Adiantamento ON "
       "Requisicao.SEQ = Adiantamento.PROCESSO) ON Tipos.SEQUENCIA = Requisicao.FINALIDADE) ON "
       "Tomador.ID = Requisicao.TOMADOR ");
   switch (codigo) {
     case 1:
-      return empenhos + QStringLiteral("WHERE (((Adiantamento.RETIRADA) Is Not Null) AND "
-                                       "((Adiantamento.FECHAMENTO) Is Null));");
+      return empenhos + QStringLiteral(
+                            "WHERE (((Adiantamento.RETIRADA) Is Not Null) AND "
+                            "((Adiantamento.FECHAMENTO) Is Null));");
     case 2:
       return empenhos + QStringLiteral("WHERE (((Tomador.NOME1) Like '%") + Nome +
              QStringLiteral("%') AND ((Adiantamento.FECHAMENTO) Is Null));");

@@ -1,5 +1,5 @@
-// The lists of processes across requisitions, advances, persons and types: the main window's list under
-// its filters, and the picker's.
+// The lists of processes across requisitions, advances, persons and types: the main window's list
+// under its filters, and the picker's.
 #pragma once
 
 #include <QString>
@@ -17,7 +17,7 @@ class cTodos {
   static cTodos& compartilhada();
 
   // Only Seq, Nome and Tipo take part in a query.
-  std::int16_t Seq = 0;   // process number
+  std::int16_t Seq = 0;  // process number
   QString Nome;
   Money Valor;
   QString Finalidade;
@@ -27,9 +27,9 @@ class cTodos {
   Value Fechamento;
   QString Tipo;
 
-  // Fills the list of processes and tells their count in panel 1 of the status bar. Codes 0 to 4 are the
-  // values of the main window's filter; 5 by Nome, 6 by Seq, 7 to 9 by Nome among those of filters 1 to
-  // 3 (9 in any year). Failures, those of an unknown code too, go to Erro_interno.
+  // Fills the list of processes and tells their count in panel 1 of the status bar. Codes 0 to 4
+  // are the values of the main window's filter; 5 by Nome, 6 by Seq, 7 to 9 by Nome among those of
+  // filters 1 to 3 (9 in any year). Failures, those of an unknown code too, go to Erro_interno.
   void Lista_Movimento(ListView& lista, std::int16_t codigo, StatusBar& barra);
 
   // Fills the picker's list of empenhos: 1 all open, 2 open by Nome, 3 open by Tipo, 4 closed.

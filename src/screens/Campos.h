@@ -4,7 +4,6 @@
 #include <QList>
 #include <QString>
 
-#include "foundation/Aplicacao.h"
 #include "platform/values/RuntimeError.h"
 #include "platform/values/Value.h"
 
@@ -45,20 +44,6 @@ void Segue(Passo&& passo) {
   } catch (const RuntimeError&) {
     return;
   }
-}
-
-// `rotina` of `tela` as a handler: a run-time error is told as one that no trap took. It is told
-// here and not at the event loop, since the toolkit frees nothing that an error passes by on its
-// way there.
-template <typename Tela, typename... Argumentos>
-auto Trata(Tela* tela, void (Tela::*rotina)(Argumentos...)) {
-  return [tela, rotina](Argumentos... argumentos) {
-    try {
-      (tela->*rotina)(argumentos...);
-    } catch (const RuntimeError& erro) {
-      mostra_erro_sem_trava(erro);
-    }
-  };
 }
 
 // Dates that were typed and refused. Each is told on the spot beside its field, and once more, in a

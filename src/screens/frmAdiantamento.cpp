@@ -4,6 +4,7 @@
 
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
 #include "masterdata/cTipos.h"
 #include "platform/controls/ComboBox.h"
@@ -82,19 +83,19 @@ void frmAdiantamento::liga_eventos() {
   });
   ui_->dtpfechamento->installEventFilter(this);
   connect(ui_->dtpretirada, &DatePicker::valueChanged, this,
-          Trata(this, &frmAdiantamento::dtpretirada_Change));
+          Evento(this, &frmAdiantamento::dtpretirada_Change));
   // A date that is typed proposes the amount as a click does.
   connect(ui_->dtpfechamento, &DatePicker::valueChanged, this, [this] {
     if (!ui_->dtpfechamento->isEmpty()) {
-      Trata(this, &frmAdiantamento::dtpfechamento_Click)();
+      Evento(this, &frmAdiantamento::dtpfechamento_Click)();
     }
   });
   connect(ui_->MonthView1, &QCalendarWidget::clicked, this,
-          Trata(this, &frmAdiantamento::MonthView1_DateClick));
+          Evento(this, &frmAdiantamento::MonthView1_DateClick));
   connect(ui_->MonthView1, &QCalendarWidget::activated, this,
-          Trata(this, &frmAdiantamento::MonthView1_DateClick));
+          Evento(this, &frmAdiantamento::MonthView1_DateClick));
   connect(ui_->Command1, &QPushButton::clicked, this,
-          Trata(this, &frmAdiantamento::Command1_Click));
+          Evento(this, &frmAdiantamento::Command1_Click));
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { done(Rejected); });
 }
 
@@ -170,7 +171,7 @@ void frmAdiantamento::MonthView1_DateClick(const QDate& dia) {
 
 bool frmAdiantamento::eventFilter(QObject* objeto, QEvent* evento) {
   if (objeto == ui_->dtpfechamento && evento->type() == QEvent::MouseButtonRelease) {
-    Trata(this, &frmAdiantamento::dtpfechamento_Click)();
+    Evento(this, &frmAdiantamento::dtpfechamento_Click)();
   }
   return QDialog::eventFilter(objeto, evento);
 }

@@ -34,8 +34,9 @@ void adiciona_vencendo(ListView& lista) {
 frmAviso::frmAviso(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmAviso>()) {
   ui_->setupUi(this);
   Estilo::prepara_janela(*this);
-  ui_->Image1->setPixmap(
-      style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(kIcone, devicePixelRatioF()));
+  ui_->Image1->setPixmap(style()
+                             ->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this)
+                             .pixmap(kIcone, devicePixelRatioF()));
   prepara_colunas(*ui_->lvList);
   ui_->Command1->setFocus();
   Timer1.setInterval(kFechaSozinho);
@@ -54,9 +55,12 @@ void frmAviso::Form_Load() {
   Lista_sob_trava(QStringLiteral("Função Form_Load"), [this] {
     ui_->lvList->clear();
     Sql_atual = QStringLiteral(
-        "SELECT Requisicao.SEQ, Executor.NOME, Tipos.TIPO, Adiantamento.FECHAR_EM FROM Tipos INNER JOIN "
-        "((Executor INNER JOIN Requisicao ON Executor.ORDEM = Requisicao.ORGAO) INNER JOIN Adiantamento "
-        "ON Requisicao.SEQ = Adiantamento.PROCESSO) ON Tipos.SEQUENCIA = Requisicao.FINALIDADE WHERE "
+        "SELECT Requisicao.SEQ, Executor.NOME, Tipos.TIPO, Adiantamento.FECHAR_EM FROM Tipos INNER "
+        "JOIN "
+        "((Executor INNER JOIN Requisicao ON Executor.ORDEM = Requisicao.ORGAO) INNER JOIN "
+        "Adiantamento "
+        "ON Requisicao.SEQ = Adiantamento.PROCESSO) ON Tipos.SEQUENCIA = Requisicao.FINALIDADE "
+        "WHERE "
         "(((Adiantamento.FECHAR_EM)<Now()+6) AND ((Adiantamento.FECHAMENTO) Is Null));");
     Abre_consulta(Sql_atual);
     if (Tabela.recordCount() < 1) {

@@ -1,5 +1,5 @@
-// The deadline alert: the advances that are not closed and whose deadline has passed or is less than
-// six days away. With none of them the window closes itself.
+// The deadline alert: the advances that are not closed and whose deadline has passed or is less
+// than six days away. With none of them the window closes itself.
 #pragma once
 
 #include <QDialog>

@@ -7,6 +7,7 @@
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
 #include "platform/controls/OpenForms.h"
 #include "platform/controls/UpperCase.h"
@@ -149,13 +150,13 @@ void frmCadastro::prepara_colunas() {
 void frmCadastro::liga_janela() {
   connect(ui_->SSTab1, &QTabWidget::currentChanged, this, &frmCadastro::SSTab1_Click);
   connect(ui_->cmdPrestacao, &QPushButton::clicked, this,
-          Trata(this, &frmCadastro::cmdPrestacao_Click));
-  connect(ui_->cmdOk, &QPushButton::clicked, this, Trata(this, &frmCadastro::cmdOk_Click));
+          Evento(this, &frmCadastro::cmdPrestacao_Click));
+  connect(ui_->cmdOk, &QPushButton::clicked, this, Evento(this, &frmCadastro::cmdOk_Click));
   connect(ui_->cmdAplicar, &QPushButton::clicked, this,
-          Trata(this, &frmCadastro::cmdAplicar_Click));
+          Evento(this, &frmCadastro::cmdAplicar_Click));
   connect(ui_->cmdImprimir, &QPushButton::clicked, this,
-          Trata(this, &frmCadastro::cmdImprimir_Click));
-  connect(Command1[0], &QPushButton::clicked, this, Trata(this, &frmCadastro::Sair));
+          Evento(this, &frmCadastro::cmdImprimir_Click));
+  connect(Command1[0], &QPushButton::clicked, this, Evento(this, &frmCadastro::Sair));
 }
 
 void frmCadastro::liga_requisicao() {
@@ -192,34 +193,34 @@ void frmCadastro::liga_empenho() {
     Tag = lista->text(linha);
     copia_chave();
   });
-  connect(lista, &ListView::itemActivated, this, Trata(this, &frmCadastro::cmdalterar_Click));
+  connect(lista, &ListView::itemActivated, this, Evento(this, &frmCadastro::cmdalterar_Click));
   connect(lista, &ListView::columnClicked, this, [lista](int n) { Ordena_lista(*lista, n); });
-  connect(ui_->cmdnovo, &QPushButton::clicked, this, Trata(this, &frmCadastro::cmdnovo_Click));
+  connect(ui_->cmdnovo, &QPushButton::clicked, this, Evento(this, &frmCadastro::cmdnovo_Click));
   connect(ui_->cmdalterar, &QPushButton::clicked, this,
-          Trata(this, &frmCadastro::cmdalterar_Click));
+          Evento(this, &frmCadastro::cmdalterar_Click));
   connect(ui_->cmdexcluir, &QPushButton::clicked, this,
-          Trata(this, &frmCadastro::cmdexcluir_Click));
+          Evento(this, &frmCadastro::cmdexcluir_Click));
   connect(ui_->cmdEncerrar, &QPushButton::clicked, this,
-          Trata(this, &frmCadastro::cmdEncerrar_Click));
+          Evento(this, &frmCadastro::cmdEncerrar_Click));
 }
 
 void frmCadastro::liga_notas() {
-  connect(Command1[1], &QPushButton::clicked, this, Trata(this, &frmCadastro::Alterar));
-  connect(Command1[2], &QPushButton::clicked, this, Trata(this, &frmCadastro::Gravar));
-  connect(Command1[3], &QPushButton::clicked, this, Trata(this, &frmCadastro::Incluir));
-  connect(Command1[4], &QPushButton::clicked, this, Trata(this, &frmCadastro::imprime_prestacao));
-  connect(Command1[5], &QPushButton::clicked, this, Trata(this, &frmCadastro::Exporta));
-  connect(Command1[6], &QPushButton::clicked, this, Trata(this, &frmCadastro::Cancelar));
+  connect(Command1[1], &QPushButton::clicked, this, Evento(this, &frmCadastro::Alterar));
+  connect(Command1[2], &QPushButton::clicked, this, Evento(this, &frmCadastro::Gravar));
+  connect(Command1[3], &QPushButton::clicked, this, Evento(this, &frmCadastro::Incluir));
+  connect(Command1[4], &QPushButton::clicked, this, Evento(this, &frmCadastro::imprime_prestacao));
+  connect(Command1[5], &QPushButton::clicked, this, Evento(this, &frmCadastro::Exporta));
+  connect(Command1[6], &QPushButton::clicked, this, Evento(this, &frmCadastro::Cancelar));
   ListView* const lista = ui_->lstNotas;
   connect(lista, &ListView::itemClicked, this,
           [this, lista](int linha) { ui_->txtseq->setText(lista->text(linha)); });
   connect(lista, &ListView::columnClicked, this, [lista](int n) { Ordena_lista(*lista, n); });
-  connect(lista, &ListView::deleteRequested, this, Trata(this, &frmCadastro::mnExcluir_Click));
+  connect(lista, &ListView::deleteRequested, this, Evento(this, &frmCadastro::mnExcluir_Click));
   auto* const mnOpcoes = new QMenu(this);
   mnOpcoes->setObjectName(QStringLiteral("mnOpcoes"));
   QAction* const mnExcluir = mnOpcoes->addAction(QStringLiteral("&Excluir item selecionado"));
   mnExcluir->setObjectName(QStringLiteral("mnExcluir"));
-  connect(mnExcluir, &QAction::triggered, this, Trata(this, &frmCadastro::mnExcluir_Click));
+  connect(mnExcluir, &QAction::triggered, this, Evento(this, &frmCadastro::mnExcluir_Click));
   connect(lista, &ListView::contextMenuRequested, this,
           [mnOpcoes](int, const QPoint& lugar) { mnOpcoes->popup(lugar); });
 }

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "platform/values/Convert.h"
 #include "records/Principal.h"
 #include "records/cTodos.h"
@@ -14,8 +15,8 @@ namespace {
 constexpr int kNome = 0;
 constexpr std::int16_t kPorNumero = 6;
 
-// The search by name keeps to what the filter in force shows. Requisitions without an empenho (filter 4)
-// have no search of their own: the list then stays as it is.
+// The search by name keeps to what the filter in force shows. Requisitions without an empenho
+// (filter 4) have no search of their own: the list then stays as it is.
 std::optional<std::int16_t> codigo_por_nome() {
   switch (FiltroStatus) {
     case 0:
@@ -52,7 +53,7 @@ frmLocalizar::frmLocalizar(QWidget* parent)
   Estilo::destaca(*ui_->Command1);
   ui_->Combo1->setCurrentIndex(kNome);
   ui_->Text1->setFocus();
-  connect(ui_->Command1, &QPushButton::clicked, this, &frmLocalizar::Command1_Click);
+  connect(ui_->Command1, &QPushButton::clicked, this, Evento(this, &frmLocalizar::Command1_Click));
 }
 
 frmLocalizar::~frmLocalizar() = default;

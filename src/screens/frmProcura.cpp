@@ -28,7 +28,8 @@ QMap<std::int16_t, RecebeEmpenho>& receptores() {
 }
 
 void prepara_colunas(ListView& lista) {
-  const auto coluna = [&lista](const char* titulo, int largura, Qt::Alignment lado = Qt::AlignLeft) {
+  const auto coluna = [&lista](const char* titulo, int largura,
+                               Qt::Alignment lado = Qt::AlignLeft) {
     lista.addColumn(QString::fromUtf8(titulo), ColumnWidth::pixels(largura), lado);
   };
   coluna("EMPENHO", 90);

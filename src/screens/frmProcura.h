@@ -1,5 +1,5 @@
-// The picker of empenhos: another window asks for one, the operator chooses, and the choice is handed to
-// the receiver that the asking window has registered.
+// The picker of empenhos: another window asks for one, the operator chooses, and the choice is
+// handed to the receiver that the asking window has registered.
 #pragma once
 
 #include <QDialog>
@@ -21,9 +21,9 @@ extern std::int16_t ModoProcura;
 
 // A row of the picker, as shown.
 struct EmpenhoEscolhido {
-  QString empenho;        // "00000/00"
-  QStringList subitens;   // from 1 on, so at(0) is empty: name, type, amount, withdrawal, deadline,
-                          // opening, post, process
+  QString empenho;       // "00000/00"
+  QStringList subitens;  // from 1 on, so at(0) is empty: name, type, amount, withdrawal, deadline,
+                         // opening, post, process
 };
 
 using RecebeEmpenho = std::function<void(const EmpenhoEscolhido&)>;

@@ -1,5 +1,5 @@
-// The commands of the main window's ribbon: its tabs, categories and buttons, in the order in which they
-// stand on the screen. Keys are not in numeric order, and the images follow neither.
+// The commands of the main window's ribbon: its tabs, categories and buttons, in the order in which
+// they stand on the screen. Keys are not in numeric order, and the images follow neither.
 #pragma once
 
 #include <array>
@@ -32,11 +32,11 @@ inline constexpr std::array kGuias{
 };
 
 inline constexpr std::array kCategorias{
-    CategoriaRibbon{"1A", "1", "Requisição"},   CategoriaRibbon{"1B", "1", "Pesquisar"},
-    CategoriaRibbon{"1C", "1", "Exibir Processos"},
-    CategoriaRibbon{"2A", "2", "Planilhas"},    CategoriaRibbon{"2B", "2", "Extras"},
-    CategoriaRibbon{"3A", "3", "Essenciais"},   CategoriaRibbon{"3B", "3", "Complementares"},
-    CategoriaRibbon{"4A", "4", "Sistema"},      CategoriaRibbon{"4B", "4", "Importar"},
+    CategoriaRibbon{"1A", "1", "Requisição"},       CategoriaRibbon{"1B", "1", "Pesquisar"},
+    CategoriaRibbon{"1C", "1", "Exibir Processos"}, CategoriaRibbon{"2A", "2", "Planilhas"},
+    CategoriaRibbon{"2B", "2", "Extras"},           CategoriaRibbon{"3A", "3", "Essenciais"},
+    CategoriaRibbon{"3B", "3", "Complementares"},   CategoriaRibbon{"4A", "4", "Sistema"},
+    CategoriaRibbon{"4B", "4", "Importar"},
 };
 
 inline constexpr std::array kBotoes{

@@ -2,8 +2,8 @@
 
 #include "shell/ribbon/ImageList.h"
 
-// The pictures that are compiled in; a static library's are taken up only when asked for. It stands in
-// no namespace, where the resource compiler's function is declared.
+// The pictures that are compiled in; a static library's are taken up only when asked for. It stands
+// in no namespace, where the resource compiler's function is declared.
 static void traz_imagens() {
   Q_INIT_RESOURCE(icons);
 }

@@ -9,6 +9,7 @@
 
 #include "foundation/Banco.h"
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
 #include "foundation/UmaJanela.h"
 #include "foundation/frmConfigura.h"
@@ -37,11 +38,11 @@
 namespace quartela {
 namespace {
 
-constexpr int kAlturaRibbon = 1740;      // twips, as are all measures here
+constexpr int kAlturaRibbon = 1740;  // twips, as are all measures here
 constexpr int kAlturaBarra = 360;
 constexpr int kTopoLista = 1725;
 constexpr int kFolgaLista = 20;
-constexpr int kAvisoDepoisDe = 1000;     // milliseconds
+constexpr int kAvisoDepoisDe = 1000;  // milliseconds
 constexpr std::int16_t kFiltroInicial = 1;
 constexpr std::int16_t kInclui = 0;
 constexpr std::int16_t kAltera = -1;
@@ -149,7 +150,8 @@ void frmOficce::prepara_lista() {
   lista_->setObjectName(QStringLiteral("ListView1"));
   lista_->setAccessibleName(QStringLiteral("Processos"));
   for (std::size_t n = 0; n < kColunas.size(); ++n) {
-    lista_->addColumn(texto(kColunas[n].titulo), ColumnWidth::hundredthsOfMillimetre(kColunas[n].largura),
+    lista_->addColumn(texto(kColunas[n].titulo),
+                      ColumnWidth::hundredthsOfMillimetre(kColunas[n].largura),
                       n == kColunaValor ? Qt::AlignRight : Qt::AlignLeft);
   }
   lista_->setIconList(icones_das_linhas(), kTamanhoIconeLinha);
@@ -160,14 +162,17 @@ void frmOficce::prepara_barra() {
 }
 
 void frmOficce::liga_eventos() {
-  connect(ribbon_, &FaixaRibbon::ButtonClick, this, &frmOficce::Ribbon_ButtonClick);
+  connect(ribbon_, &FaixaRibbon::ButtonClick, this,
+          Evento([this](const QString& id) { Ribbon_ButtonClick(id); }));
   connect(lista_, &ListView::itemClicked, this, [this](int linha) {
     Tag_principal = lista_->text(linha);
     txtkey_ = Tag_principal;
   });
-  connect(lista_, &ListView::itemActivated, this, [this] { Ribbon_ButtonClick(QStringLiteral("1")); });
-  connect(lista_, &ListView::columnClicked, this, [this](int coluna) { Ordena_lista(*lista_, coluna); });
-  connect(lista_, &ListView::deleteRequested, this, &frmOficce::Exclui_processo);
+  connect(lista_, &ListView::itemActivated, this,
+          Evento([this] { Ribbon_ButtonClick(QStringLiteral("1")); }));
+  connect(lista_, &ListView::columnClicked, this,
+          [this](int coluna) { Ordena_lista(*lista_, coluna); });
+  connect(lista_, &ListView::deleteRequested, this, Evento([this] { Exclui_processo(); }));
   connect(lista_, &ListView::contextMenuRequested, this, &frmOficce::mostra_menu);
   connect(&Timer1, &QTimer::timeout, this, &frmOficce::Timer1_Timer);
 }
@@ -208,7 +213,9 @@ const frmOficce::Comandos& frmOficce::comandos() {
       {QStringLiteral("21"), [](frmOficce& janela) { janela.filtra(0); }},
       {QStringLiteral("22"), [](frmOficce& janela) { janela.filtra(1); }},
       {QStringLiteral("23"),
-       [](frmOficce&) { Dialogs::information(QStringLiteral("Não disponivel no momento"), kAviso); }},
+       [](frmOficce&) {
+         Dialogs::information(QStringLiteral("Não disponivel no momento"), kAviso);
+       }},
   };
   return tabela;
 }
@@ -248,8 +255,8 @@ void frmOficce::mostra_menu(int, const QPoint& posicao) {
 
 void frmOficce::LoadEXE(const QString& caminho) {
   if (!QProcess::startDetached(nativePath(caminho), {})) {
-    Dialogs::exclamation(QStringLiteral(
-        "O aplicativo não foi localizado !!! Verifique sua localização ..."));
+    Dialogs::exclamation(
+        QStringLiteral("O aplicativo não foi localizado !!! Verifique sua localização ..."));
   }
   QCoreApplication::processEvents();
 }

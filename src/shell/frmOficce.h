@@ -1,5 +1,5 @@
-// The main window: the ribbon with every command, the list of processes, the status bar. It routes; the
-// list is filled by cTodos, the work is done in the windows that it opens.
+// The main window: the ribbon with every command, the list of processes, the status bar. It routes;
+// the list is filled by cTodos, the work is done in the windows that it opens.
 #pragma once
 
 #include <QHash>

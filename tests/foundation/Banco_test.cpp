@@ -1,5 +1,5 @@
-// The opening of the database at the login and its closing: which paths lead to the settings screen,
-// what is told, and that no file is ever changed by it.
+// The opening of the database at the login and its closing: which paths lead to the settings
+// screen, what is told, and that no file is ever changed by it.
 #include "foundation/Banco.h"
 
 #include <QDir>
@@ -54,8 +54,8 @@ class BancoTest : public QObject {
 
   void everyPathIsKept() {
     for (const char* key : {"produtos", "servicos", "transporte"}) {
-      Grava_ini(QStringLiteral("Diretorio"), QLatin1String(key), QStringLiteral("de ") + QLatin1String(key),
-                office_->config());
+      Grava_ini(QStringLiteral("Diretorio"), QLatin1String(key),
+                QStringLiteral("de ") + QLatin1String(key), office_->config());
     }
     point(QStringLiteral("sumido.mdb"));
     Abre_banco();
@@ -86,10 +86,12 @@ class BancoTest : public QObject {
     QTest::newRow("empty") << QByteArray() << QStringLiteral("vazi");
     QTest::newRow("text") << QByteArray("isto não é um banco de dados\n").repeated(100)
                           << QStringLiteral("não é");
-    QTest::newRow("an Access file") << QByteArray("\0\1\0\0Standard Jet DB\0", 20) + QByteArray(4096, 'x')
-                                    << QStringLiteral("Access");
+    QTest::newRow("an Access file")
+        << QByteArray("\0\1\0\0Standard Jet DB\0", 20) + QByteArray(4096, 'x')
+        << QStringLiteral("Access");
     QTest::newRow("a newer Access file")
-        << QByteArray("\0\1\0\0Standard ACE DB\0", 20) + QByteArray(4096, 'x') << QStringLiteral("Access");
+        << QByteArray("\0\1\0\0Standard ACE DB\0", 20) + QByteArray(4096, 'x')
+        << QStringLiteral("Access");
     QTest::newRow("cut short") << QByteArray("SQLite format 3\0", 16) << QStringLiteral("");
   }
   void aFileThatIsNoDatabaseIsToldUnchangedAndShowsTheSettings() {
@@ -99,7 +101,8 @@ class BancoTest : public QObject {
     write(path, content);
     point(QStringLiteral("outro.mdb"));
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox({.text = test::kAnything + word + test::kAnything, .icon = BoxIcon::Exclamation});
+    dialogs.expectBox(
+        {.text = test::kAnything + word + test::kAnything, .icon = BoxIcon::Exclamation});
     Abre_banco();
     QVERIFY(UmaJanela<frmParametros>::aberta() != nullptr);
     QCOMPARE(read(path), content);

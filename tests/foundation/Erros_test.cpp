@@ -14,28 +14,31 @@ class ErrosTest : public QObject {
  private slots:
   void theCommonBoxTellsEverything() {
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox({.text = QStringLiteral("Houve um erro interno:\n\nNúmero do erro:\n3022\n"
-                                              "Descrição :\nJá existe um registro com este número.\n"
-                                              "Origem :\nBanco / Função Save_reg"),
-                       .icon = BoxIcon::Exclamation});
+    dialogs.expectBox(
+        {.text = QStringLiteral("Houve um erro interno:\n\nNúmero do erro:\n3022\n"
+                                "Descrição :\nJá existe um registro com este número.\n"
+                                "Origem :\nBanco / Função Save_reg"),
+         .icon = BoxIcon::Exclamation});
     Erro_interno(RuntimeError(ErrorNumber::DuplicateKey, QString(), QStringLiteral("Banco")),
                  QStringLiteral("Função Save_reg"));
   }
 
   void theBoxOfAFailedSave() {
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox({.text = QStringLiteral("Erro n°: 61 Descrição: O disco está cheio. Libere espaço "
-                                              "e tente outra vez."),
-                       .icon = BoxIcon::Stop});
+    dialogs.expectBox(
+        {.text = QStringLiteral("Erro n°: 61 Descrição: O disco está cheio. Libere espaço "
+                                "e tente outra vez."),
+         .icon = BoxIcon::Stop});
     Erro_gravacao(RuntimeError(ErrorNumber::DiskFull));
   }
 
   void aTrapTakesRuntimeErrorsOnly() {
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox({.text = QStringLiteral("Houve um erro interno:\n\nNúmero do erro:\n6\nDescrição :\n"
-                                              "O número é grande demais para este campo.\n"
-                                              "Origem :\nQuartela / Função imprimir"),
-                       .icon = BoxIcon::Exclamation});
+    dialogs.expectBox(
+        {.text = QStringLiteral("Houve um erro interno:\n\nNúmero do erro:\n6\nDescrição :\n"
+                                "O número é grande demais para este campo.\n"
+                                "Origem :\nQuartela / Função imprimir"),
+         .icon = BoxIcon::Exclamation});
     bool after = false;
     Sob_trava(QStringLiteral("Função imprimir"), [] { throw RuntimeError(ErrorNumber::Overflow); });
     Sob_trava(QStringLiteral("Função imprimir"), [&after] { after = true; });

@@ -1,5 +1,5 @@
-// A morning at the main window, through real controls and keys: login, splash, alert, the five filters,
-// finding by name and by number, sorting, deleting a process, the end.
+// A morning at the main window, through real controls and keys: login, splash, alert, the five
+// filters, finding by name and by number, sorting, deleting a process, the end.
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -77,7 +77,8 @@ class MainWindowJourney : public QObject {
       if (QWidget* alert = OpenForms::find(QStringLiteral("frmAviso"))) {
         QVERIFY(alert->findChild<ListView*>(QStringLiteral("lvList"))->count() > 0);
         seen = true;
-        QTest::mouseClick(alert->findChild<QPushButton*>(QStringLiteral("Command1")), Qt::LeftButton);
+        QTest::mouseClick(alert->findChild<QPushButton*>(QStringLiteral("Command1")),
+                          Qt::LeftButton);
       }
     });
     operatorAtWork.start(100);

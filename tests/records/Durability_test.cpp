@@ -1,5 +1,5 @@
-// What the operator was told is saved stays saved: a program that is killed in the middle of its work
-// leaves every acknowledged requisition whole, and nothing half.
+// What the operator was told is saved stays saved: a program that is killed in the middle of its
+// work leaves every acknowledged requisition whole, and nothing half.
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QThread>
@@ -18,8 +18,8 @@ constexpr quint32 kSeed = 20'141'121;
 constexpr int kMostSaves = 12;
 constexpr int kMostMicroseconds = 3'000;
 
-// Starts the child at `first`, lets it acknowledge some rows and kills it a random moment later. Gives
-// the last number acknowledged, or -1 when the child ended by itself.
+// Starts the child at `first`, lets it acknowledge some rows and kills it a random moment later.
+// Gives the last number acknowledged, or -1 when the child ended by itself.
 std::int32_t saveAndKill(const QString& database, std::int32_t first, QRandomGenerator& random) {
   QProcess child;
   child.start(QStringLiteral(QUARTELA_BINARY_DIR "/tests/save_requisitions"),
@@ -71,15 +71,17 @@ class DurabilityTest : public QObject {
   }
 
  private:
-  // The rows of one child: all that it acknowledged, and at most one more that it could not tell of.
+  // The rows of one child: all that it acknowledged, and at most one more that it could not tell
+  // of.
   static void acknowledgedRowsAreThere(const test::Office& office, std::int32_t first,
                                        std::int32_t last) {
     const auto count = [&](const char* condition, std::int32_t bound) {
       return office
-          .ask(qPrintable(QStringLiteral("SELECT count(*) FROM Requisicao WHERE SEQ >= %1 AND SEQ %2 %3")
-                              .arg(first)
-                              .arg(QLatin1String(condition))
-                              .arg(bound)))
+          .ask(qPrintable(
+              QStringLiteral("SELECT count(*) FROM Requisicao WHERE SEQ >= %1 AND SEQ %2 %3")
+                  .arg(first)
+                  .arg(QLatin1String(condition))
+                  .arg(bound)))
           .toInt();
     };
     QCOMPARE(count("<=", last), last - first + 1);
@@ -93,7 +95,8 @@ class DurabilityTest : public QObject {
     QVERIFY(last >= kKills);
     for (std::int32_t seq = 1; seq <= last; ++seq) {
       const QString row = office.ask(qPrintable(
-          QStringLiteral("SELECT VALOR || '|' || JUSTIFICATIVA FROM Requisicao WHERE SEQ = %1").arg(seq)));
+          QStringLiteral("SELECT VALOR || '|' || JUSTIFICATIVA FROM Requisicao WHERE SEQ = %1")
+              .arg(seq)));
       QCOMPARE(row, QString::number(seq) + '|' + test::justificationOf(seq));
     }
   }

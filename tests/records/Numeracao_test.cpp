@@ -40,10 +40,12 @@ class NumeracaoTest : public QObject {
     QTest::newRow("new year") << file("2013", "88") << "000114" << file("2014", "0");
     QTest::newRow("several years later") << file("1999", "88") << "000114" << file("2014", "0");
     QTest::newRow("year left empty") << file("", "88") << "000114" << file("2014", "0");
-    QTest::newRow("a number of four digits") << file("2014", "0099") << "010014" << file("2014", "0099");
+    QTest::newRow("a number of four digits")
+        << file("2014", "0099") << "010014" << file("2014", "0099");
     QTest::newRow("grows beyond 9999") << file("2014", "9999") << "1000014" << file("2014", "9999");
-    QTest::newRow("section in small letters") << QByteArray("[contador]\nANO=2014\nNUMBER=6\n") << "000714"
-                                              << QByteArray("[contador]\nANO=2014\nNUMBER=6\n");
+    QTest::newRow("section in small letters")
+        << QByteArray("[contador]\nANO=2014\nNUMBER=6\n") << "000714"
+        << QByteArray("[contador]\nANO=2014\nNUMBER=6\n");
   }
   void proposes() {
     QFETCH(QByteArray, counter);
@@ -70,8 +72,10 @@ class NumeracaoTest : public QObject {
     test::ScriptedDialogs dialogs;
     Novo_item(box, path());
     QCOMPARE(box.text(), QStringLiteral("000114"));
-    QCOMPARE(Le_ini(QStringLiteral("Contador"), QStringLiteral("ano"), path()), QStringLiteral("2014"));
-    QCOMPARE(Le_ini(QStringLiteral("Contador"), QStringLiteral("number"), path()), QStringLiteral("0"));
+    QCOMPARE(Le_ini(QStringLiteral("Contador"), QStringLiteral("ano"), path()),
+             QStringLiteral("2014"));
+    QCOMPARE(Le_ini(QStringLiteral("Contador"), QStringLiteral("number"), path()),
+             QStringLiteral("0"));
   }
 
   void aClockSetBackStopsTheNumbering() {
@@ -79,8 +83,8 @@ class NumeracaoTest : public QObject {
     write(counter);
     QLineEdit box(QStringLiteral("antes"));
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox({.text = QStringLiteral(
-                           "Erro no relógio do micro ou o arquivo INI está adulterado.")});
+    dialogs.expectBox(
+        {.text = QStringLiteral("Erro no relógio do micro ou o arquivo INI está adulterado.")});
     Novo_item(box, path());
     QCOMPARE(box.text(), QStringLiteral("antes"));
     QCOMPARE(read(), counter);
@@ -89,10 +93,12 @@ class NumeracaoTest : public QObject {
   void garbageIsReported_data() {
     QTest::addColumn<QByteArray>("counter");
     QTest::addColumn<int>("error");
-    QTest::newRow("letters for the year") << QByteArray("[Contador]\nano=dois mil\nnumber=7\n") << 13;
+    QTest::newRow("letters for the year")
+        << QByteArray("[Contador]\nano=dois mil\nnumber=7\n") << 13;
     QTest::newRow("letters for the number") << QByteArray("[Contador]\nano=2014\nnumber=x\n") << 13;
     QTest::newRow("no number in its year") << QByteArray("[Contador]\nano=2014\n") << 13;
-    QTest::newRow("a year out of range") << QByteArray("[Contador]\nano=99999999999\nnumber=7\n") << 6;
+    QTest::newRow("a year out of range")
+        << QByteArray("[Contador]\nano=99999999999\nnumber=7\n") << 6;
   }
   void garbageIsReported() {
     QFETCH(QByteArray, counter);

@@ -1,5 +1,5 @@
-// The record of an advance on a real database: saving with nullable dates, listing, adding up, closing,
-// reopening, the summary.
+// The record of an advance on a real database: saving with nullable dates, listing, adding up,
+// closing, reopening, the summary.
 #include "records/cAdiantamento.h"
 
 #include <QtTest>
@@ -67,11 +67,13 @@ class cAdiantamentoTest : public QObject {
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
     dialogs.expectBox(boxes::saved());
     advance.Save_ad(1);
-    QCOMPARE(office_->ask("SELECT EMPENHO||'|'||PROCESSO||'|'||ABERTURA||'|'||RETIRADA||'|'||FECHAR_EM||"
-                          "'|'||ifnull(FECHAMENTO,'-')||'|'||DEVOLUCAO||'|'||DATADEV||'|'||ANULADO||'|'||OP "
-                          "FROM Adiantamento"),
-             QStringLiteral("50014|114|2014-11-01 00:00:00|2014-11-03 00:00:00|2014-12-03 00:00:00|-|"
-                            "125000|2014-11-21 00:00:00|1|77"));
+    QCOMPARE(
+        office_->ask(
+            "SELECT EMPENHO||'|'||PROCESSO||'|'||ABERTURA||'|'||RETIRADA||'|'||FECHAR_EM||"
+            "'|'||ifnull(FECHAMENTO,'-')||'|'||DEVOLUCAO||'|'||DATADEV||'|'||ANULADO||'|'||OP "
+            "FROM Adiantamento"),
+        QStringLiteral("50014|114|2014-11-01 00:00:00|2014-11-03 00:00:00|2014-12-03 00:00:00|-|"
+                       "125000|2014-11-21 00:00:00|1|77"));
   }
 
   void alterationAndItsRefusal() {
@@ -90,8 +92,9 @@ class cAdiantamentoTest : public QObject {
   void takenEmpenhoIsTold() {
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
-    dialogs.expectBox(boxes::saveFailure(ErrorNumber::DuplicateKey,
-                                         QStringLiteral("UNIQUE constraint failed: Adiantamento.EMPENHO")));
+    dialogs.expectBox(
+        boxes::saveFailure(ErrorNumber::DuplicateKey,
+                           QStringLiteral("UNIQUE constraint failed: Adiantamento.EMPENHO")));
     sample().Save_ad(1);
   }
 
@@ -102,7 +105,8 @@ class cAdiantamentoTest : public QObject {
     dialogs.expectBox(boxes::askAlteration(), Button::Yes);
     dialogs.expectBox(boxes::saveFailure(ErrorNumber::TypeMismatch));
     advance.Save_ad(2);
-    QCOMPARE(office_->ask("SELECT ABERTURA FROM Adiantamento"), QStringLiteral("2014-11-01 00:00:00"));
+    QCOMPARE(office_->ask("SELECT ABERTURA FROM Adiantamento"),
+             QStringLiteral("2014-11-01 00:00:00"));
   }
 
   void deletionTakesTheNotesAlong() {
@@ -116,8 +120,9 @@ class cAdiantamentoTest : public QObject {
   }
 
   void aFailedDeletionIsToldBeforeItIsRolledBack() {
-    office_->run("CREATE TABLE Anexo(EMPENHO INTEGER REFERENCES Adiantamento(EMPENHO));"
-                 "INSERT INTO Anexo VALUES (50014);");
+    office_->run(
+        "CREATE TABLE Anexo(EMPENHO INTEGER REFERENCES Adiantamento(EMPENHO));"
+        "INSERT INTO Anexo VALUES (50014);");
     bool inTransaction = false;
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::saveFailure(ErrorNumber::DependantsExist,
@@ -131,14 +136,15 @@ class cAdiantamentoTest : public QObject {
 
   void listsTheEmpenhosOfAProcess() {
     office_->run(
-        "INSERT INTO Adiantamento(EMPENHO, PROCESSO, FECHAMENTO, DEVOLUCAO, DATADEV, ANULADO) VALUES "
+        "INSERT INTO Adiantamento(EMPENHO, PROCESSO, FECHAMENTO, DEVOLUCAO, DATADEV, ANULADO) "
+        "VALUES "
         "(50114, 114, '2014-11-20 00:00:00', 12345678, '2014-11-19 00:00:00', 1)");
     sample().Lista_Adiantamento(*list_);
     QCOMPARE(list_->count(), 2);
-    QCOMPARE(cells(*list_, 0),
-             QStringList({"00500/14", "01/11/2014", "03/11/2014", "03/12/2014", "", "0,00", "", "77", "NÃO"}));
-    QCOMPARE(cells(*list_, 1), QStringList({"00501/14", "", "", "", "20/11/2014", "1.234,57", "19/11/2014",
-                                            "", "SIM"}));
+    QCOMPARE(cells(*list_, 0), QStringList({"00500/14", "01/11/2014", "03/11/2014", "03/12/2014",
+                                            "", "0,00", "", "77", "NÃO"}));
+    QCOMPARE(cells(*list_, 1), QStringList({"00501/14", "", "", "", "20/11/2014", "1.234,57",
+                                            "19/11/2014", "", "SIM"}));
     QCOMPARE(screenPointer(), PointerShape::Normal);
     QCOMPARE(Tabela.state(), Recordset::Closed);
   }
@@ -164,9 +170,10 @@ class cAdiantamentoTest : public QObject {
     QTest::addColumn<QString>("notes");
     QTest::addColumn<qint64>("units");
     QTest::newRow("none") << QStringLiteral("SELECT 1") << qint64{0};
-    QTest::newRow("two") << QStringLiteral(
-                                "INSERT INTO PrestContas(PROCESSO, DESPESAS) VALUES (50014, 10000), (50014, 5)")
-                         << qint64{10000};
+    QTest::newRow("two")
+        << QStringLiteral(
+               "INSERT INTO PrestContas(PROCESSO, DESPESAS) VALUES (50014, 10000), (50014, 5)")
+        << qint64{10000};
     QTest::newRow("half a cent is rounded up")
         << QStringLiteral("INSERT INTO PrestContas(PROCESSO, DESPESAS) VALUES (50014, 12345650)")
         << qint64{12345700};
@@ -192,8 +199,9 @@ class cAdiantamentoTest : public QObject {
     advance.Datadev = nullDate ? Value() : Value("");
     QVERIFY(advance.Encerra_adiantamento());
     QVERIFY(advance.Datadev.isNull());
-    const char* row = "SELECT ifnull(FECHAMENTO,'-')||'|'||DEVOLUCAO||'|'||ifnull(DATADEV,'-')||'|'||OP "
-                      "FROM Adiantamento";
+    const char* row =
+        "SELECT ifnull(FECHAMENTO,'-')||'|'||DEVOLUCAO||'|'||ifnull(DATADEV,'-')||'|'||OP "
+        "FROM Adiantamento";
     QCOMPARE(office_->ask(row), QStringLiteral("2014-11-21 00:00:00|100000|-|77"));
     advance.Fechamento = Value();
     advance.Devolucao = Money();
@@ -214,8 +222,8 @@ class cAdiantamentoTest : public QObject {
     cAdiantamento advance = sample();
     advance.Fechamento = QStringLiteral("31/02/2014");
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::internalError(ErrorNumber::TypeMismatch,
-                                           QStringLiteral("Encerra_adiantamento")));
+    dialogs.expectBox(
+        boxes::internalError(ErrorNumber::TypeMismatch, QStringLiteral("Encerra_adiantamento")));
     QVERIFY(!advance.Encerra_adiantamento());
     Connection other;
     other.open(QStringLiteral("Data Source=") + office_->database());

@@ -53,8 +53,9 @@ class cPrestContasTest : public QObject {
     cPrestContas note = sample();
     note.ID_Viagem = 7;
     note.Save_prest(1);
-    QCOMPARE(office_->ask("SELECT SEQ||'|'||PROCESSO||'|'||DATA||'|'||ORDEM||'|'||HISTORICO||'|'||DESPESAS"
-                          "||'|'||ID_VIAGEM FROM PrestContas"),
+    QCOMPARE(office_->ask(
+                 "SELECT SEQ||'|'||PROCESSO||'|'||DATA||'|'||ORDEM||'|'||HISTORICO||'|'||DESPESAS"
+                 "||'|'||ID_VIAGEM FROM PrestContas"),
              QStringLiteral("1|50014|2014-11-10 00:00:00|NF 123|Padaria D'Ávila|259000|7"));
   }
 
@@ -118,8 +119,9 @@ class cPrestContasTest : public QObject {
 
   void aFailedDeletionIsRolledBackFirst() {
     addNotes();
-    office_->run("CREATE TABLE Anexo(SEQ INTEGER REFERENCES PrestContas(SEQ));"
-                 "INSERT INTO Anexo VALUES (2);");
+    office_->run(
+        "CREATE TABLE Anexo(SEQ INTEGER REFERENCES PrestContas(SEQ));"
+        "INSERT INTO Anexo VALUES (2);");
     cPrestContas note = sample();
     note.Seq = 2;
     bool inTransaction = true;
@@ -205,7 +207,8 @@ class cPrestContasTest : public QObject {
  private:
   void addNotes() const {
     office_->run(
-        "INSERT INTO PrestContas(SEQ, PROCESSO, DATA, ORDEM, HISTORICO, DESPESAS, ID_VIAGEM) VALUES "
+        "INSERT INTO PrestContas(SEQ, PROCESSO, DATA, ORDEM, HISTORICO, DESPESAS, ID_VIAGEM) "
+        "VALUES "
         "(1, 50014, '2014-11-05 00:00:00', 'A', 'Um', 100000, 0),"
         "(2, 50014, '2014-11-05 00:00:00', 'B', 'Dois', 5000, 4),"
         "(3, 50014, '2014-11-01 00:00:00', 'C', 'Três', 10000000, 0)");

@@ -1,5 +1,5 @@
-// The record of a requisition on a real database: saving, altering, deleting, loading, and the test for
-// an open advance.
+// The record of a requisition on a real database: saving, altering, deleting, loading, and the test
+// for an open advance.
 #include "records/cRequisicao.h"
 
 #include <sqlite3.h>
@@ -58,10 +58,11 @@ class cRequisicaoTest : public QObject {
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
     dialogs.expectBox(boxes::saved());
     QVERIFY(sample(114).Save_req(1));
-    QCOMPARE(office_->ask("SELECT SEQ||'|'||DATA||'|'||ORGAO||'|'||TOMADOR||'|'||VALOR||'|'||FINALIDADE"
-                          "||'|'||JUSTIFICATIVA||'|'||FICHA FROM Requisicao"),
-             QStringLiteral("114|2014-11-20 00:00:00|1|1|12345600|1|Pão d'água & café \"extra\" — "
-                            "João|128"));
+    QCOMPARE(
+        office_->ask("SELECT SEQ||'|'||DATA||'|'||ORGAO||'|'||TOMADOR||'|'||VALOR||'|'||FINALIDADE"
+                     "||'|'||JUSTIFICATIVA||'|'||FICHA FROM Requisicao"),
+        QStringLiteral("114|2014-11-20 00:00:00|1|1|12345600|1|Pão d'água & café \"extra\" — "
+                       "João|128"));
     QCOMPARE(Tabela.state(), Recordset::Closed);
   }
 
@@ -98,8 +99,8 @@ class cRequisicaoTest : public QObject {
     again.Valor = Money::fromReais(1);
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
-    dialogs.expectBox(boxes::saveFailure(ErrorNumber::DuplicateKey,
-                                         QStringLiteral("UNIQUE constraint failed: Requisicao.SEQ")));
+    dialogs.expectBox(boxes::saveFailure(
+        ErrorNumber::DuplicateKey, QStringLiteral("UNIQUE constraint failed: Requisicao.SEQ")));
     QVERIFY(!again.Save_req(1));
     QCOMPARE(office_->ask("SELECT VALOR FROM Requisicao"), QStringLiteral("12345600"));
   }
@@ -130,16 +131,18 @@ class cRequisicaoTest : public QObject {
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::deleted());
     sample(114).Del_req();
-    QCOMPARE(office_->ask("SELECT (SELECT count(*) FROM Requisicao) + (SELECT count(*) FROM Adiantamento)"
-                          " + (SELECT count(*) FROM PrestContas)"),
+    QCOMPARE(office_->ask(
+                 "SELECT (SELECT count(*) FROM Requisicao) + (SELECT count(*) FROM Adiantamento)"
+                 " + (SELECT count(*) FROM PrestContas)"),
              QStringLiteral("0"));
     QVERIFY(!Conexao->inTransaction());
   }
 
   void refusedDeletionIsRolledBackAndTold() {
     saveQuietly(sample(114));
-    office_->run("CREATE TABLE Anexo(SEQ INTEGER REFERENCES Requisicao(SEQ));"
-                 "INSERT INTO Anexo VALUES (114);");
+    office_->run(
+        "CREATE TABLE Anexo(SEQ INTEGER REFERENCES Requisicao(SEQ));"
+        "INSERT INTO Anexo VALUES (114);");
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::saveFailure(ErrorNumber::DependantsExist,
                                          QStringLiteral("FOREIGN KEY constraint failed")));
@@ -250,7 +253,8 @@ class cRequisicaoTest : public QObject {
     QTest::addColumn<int>("type");
     QTest::addColumn<bool>("open");
     const QString none = QStringLiteral("SELECT 1");
-    const QString open = QStringLiteral("INSERT INTO Adiantamento(EMPENHO, PROCESSO) VALUES (500, 114)");
+    const QString open =
+        QStringLiteral("INSERT INTO Adiantamento(EMPENHO, PROCESSO) VALUES (500, 114)");
     const QString closed = QStringLiteral(
         "INSERT INTO Adiantamento(EMPENHO, PROCESSO, FECHAMENTO) "
         "VALUES (500, 114, '2014-11-21 00:00:00')");
@@ -298,7 +302,8 @@ class cRequisicaoTest : public QObject {
  private:
   // Without growth the file takes no page more than it has now, as on a full disk.
   static void allowGrowth(bool allow) {
-    const char* const sql = allow ? "PRAGMA max_page_count = 1073741823" : "PRAGMA max_page_count = 1";
+    const char* const sql =
+        allow ? "PRAGMA max_page_count = 1073741823" : "PRAGMA max_page_count = 1";
     QCOMPARE(sqlite3_exec(Conexao->session().handle(), sql, nullptr, nullptr, nullptr), SQLITE_OK);
   }
 

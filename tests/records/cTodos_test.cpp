@@ -35,19 +35,23 @@ QStringList firstColumn(const ListView& list) {
   return texts;
 }
 
-// Of this year: 114 requisition only, 214 opened but not withdrawn, 314 open, 414 closed, 514 annulled;
-// of last year: 113 requisition only, 213 open, 313 closed. Ana has the odd ones.
+// Of this year: 114 requisition only, 214 opened but not withdrawn, 314 open, 414 closed, 514
+// annulled; of last year: 113 requisition only, 213 open, 313 closed. Ana has the odd ones.
 void addProcesses(const test::Office& office) {
   office.run(
       "UPDATE Tomador SET NOME1 = 'ANA d''Ávila';"
       "INSERT INTO Tomador(ID, NOME1, CARGO, ATIVO) VALUES (2, 'João Bento', 'Fiscal', 1);"
-      "INSERT INTO Tipos(SEQUENCIA, IDORGAO, TIPO, PRAZO, ATIVO) VALUES (2, 1, 'Viagem', '05 dias', 1);"
+      "INSERT INTO Tipos(SEQUENCIA, IDORGAO, TIPO, PRAZO, ATIVO) VALUES (2, 1, 'Viagem', '05 "
+      "dias', 1);"
       "INSERT INTO Requisicao(SEQ, DATA, ORGAO, TOMADOR, VALOR, FINALIDADE) VALUES "
-      "(114, '2014-01-10 00:00:00', 1, 1, 10000000, 1), (214, '2014-02-10 00:00:00', 1, 2, 5000, 2),"
-      "(314, '2014-03-10 00:00:00', 1, 1, 12345678, 1), (414, '2014-04-10 00:00:00', 1, 2, 40000, 2),"
+      "(114, '2014-01-10 00:00:00', 1, 1, 10000000, 1), (214, '2014-02-10 00:00:00', 1, 2, 5000, "
+      "2),"
+      "(314, '2014-03-10 00:00:00', 1, 1, 12345678, 1), (414, '2014-04-10 00:00:00', 1, 2, 40000, "
+      "2),"
       "(514, '2014-05-10 00:00:00', 1, 1, 50000, 1), (113, '2013-01-10 00:00:00', 1, 2, 60000, 2),"
       "(213, '2013-02-10 00:00:00', 1, 1, 70000, 1), (313, '2013-03-10 00:00:00', 1, 2, 80000, 2);"
-      "INSERT INTO Adiantamento(EMPENHO, PROCESSO, ABERTURA, RETIRADA, FECHAR_EM, FECHAMENTO, ANULADO) "
+      "INSERT INTO Adiantamento(EMPENHO, PROCESSO, ABERTURA, RETIRADA, FECHAR_EM, FECHAMENTO, "
+      "ANULADO) "
       "VALUES (20014, 214, '2014-02-11 00:00:00', NULL, '2014-03-11 00:00:00', NULL, 0),"
       "(30014, 314, '2014-03-11 00:00:00', '2014-03-12 00:00:00', '2014-04-11 00:00:00', NULL, 0),"
       "(40014, 414, '2014-04-11 00:00:00', '2014-04-12 00:00:00', '2014-05-12 00:00:00', "
@@ -86,8 +90,8 @@ class cTodosTest : public QObject {
     QTest::addColumn<bool>("ordered");
     QTest::addColumn<QStringList>("rows");
     QTest::newRow("0 all, newest opening first")
-        << 0 << false
-        << QStringList{"0005/14", "0004/14", "0003/14", "0002/14", "0003/13", "0002/13", "0001/14", "0001/13"};
+        << 0 << false << QStringList{"0005/14", "0004/14", "0003/14", "0002/14",
+                                     "0003/13", "0002/13", "0001/14", "0001/13"};
     QTest::newRow("1 not closed, of this year, newest number first")
         << 1 << true << QStringList{"0005/14", "0003/14", "0002/14", "0001/14"};
     QTest::newRow("2 open with an empenho, any year")
@@ -143,8 +147,8 @@ class cTodosTest : public QObject {
     all.Seq = 414;
     all.Lista_Movimento(*list_, 6, *bar_);
     QCOMPARE(cells(*list_, 0),
-             QStringList({"0004/14", "00400/14", "10/04/2014", "Educação", "João Bento", "4,00", "Viagem",
-                          "11/04/2014", "12/04/2014", "12/05/2014", "02/05/2014", "20"}));
+             QStringList({"0004/14", "00400/14", "10/04/2014", "Educação", "João Bento", "4,00",
+                          "Viagem", "11/04/2014", "12/04/2014", "12/05/2014", "02/05/2014", "20"}));
   }
 
   void aRequisitionWithoutAnEmpenhoHasEmptyCells() {
@@ -199,8 +203,8 @@ class cTodosTest : public QObject {
     all.Nome = QStringLiteral("d'Ávila");
     bool told = false;
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::internalError(ErrorNumber::SyntaxError, kLabel, test::kAnything), Button::Ok,
-                      [&] { told = true; });
+    dialogs.expectBox(boxes::internalError(ErrorNumber::SyntaxError, kLabel, test::kAnything),
+                      Button::Ok, [&] { told = true; });
     all.Lista_Movimento(*list_, static_cast<std::int16_t>(code), *bar_);
     QVERIFY(told);
     QCOMPARE(screenPointer(), PointerShape::Normal);
@@ -211,7 +215,8 @@ class cTodosTest : public QObject {
     QTest::newRow("a second statement") << QStringLiteral("x%'; DELETE FROM Requisicao; --");
     QTest::newRow("a second statement that opens a text")
         << QStringLiteral("x%'; DELETE FROM Requisicao WHERE FICHA <> '");
-    QTest::newRow("a union") << QStringLiteral("x%' UNION SELECT * FROM Tomador WHERE NOME1 Like '");
+    QTest::newRow("a union") << QStringLiteral(
+        "x%' UNION SELECT * FROM Tomador WHERE NOME1 Like '");
   }
   void noSearchTextChangesData() {
     QFETCH(QString, text);
@@ -252,8 +257,9 @@ class cTodosTest : public QObject {
     cTodos all;
     all.Nome = QStringLiteral("bento");
     all.Lista_Procura(*list_, 2);
-    QCOMPARE(cells(*list_, 0).mid(0, 9), QStringList({"00200/14", "João Bento", "Viagem", "0,50", "",
-                                                      "11/03/2014", "11/02/2014", "Fiscal", "0002/14"}));
+    QCOMPARE(cells(*list_, 0).mid(0, 9),
+             QStringList({"00200/14", "João Bento", "Viagem", "0,50", "", "11/03/2014",
+                          "11/02/2014", "Fiscal", "0002/14"}));
   }
 
  private:

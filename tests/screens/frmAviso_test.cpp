@@ -9,8 +9,8 @@
 #include "platform/controls/ListView.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/support/ScriptedDialogs.h"
-#include "tests/support/office/OfficeMain.h"
 #include "tests/support/office/Boxes.h"
+#include "tests/support/office/OfficeMain.h"
 #include "tests/support/office/Samples.h"
 
 namespace quartela {
@@ -31,7 +31,8 @@ class frmAvisoTest : public QObject {
     QTest::addColumn<QString>("change");
     QTest::addColumn<int>("rows");
     const auto deadline = [](const char* day) {
-      return QStringLiteral("UPDATE Adiantamento SET FECHAR_EM = '%1 00:00:00'").arg(QLatin1String(day));
+      return QStringLiteral("UPDATE Adiantamento SET FECHAR_EM = '%1 00:00:00'")
+          .arg(QLatin1String(day));
     };
     QTest::newRow("far away") << deadline("2014-12-03") << 0;
     QTest::newRow("seven days away") << deadline("2014-11-28") << 0;
@@ -86,7 +87,8 @@ class frmAvisoTest : public QObject {
 
   void aReopenedProcessComesBack() {
     office_->run(
-        "UPDATE Adiantamento SET FECHAR_EM = '2014-11-21 00:00:00', FECHAMENTO = '2014-11-20 00:00:00'");
+        "UPDATE Adiantamento SET FECHAR_EM = '2014-11-21 00:00:00', FECHAMENTO = '2014-11-20 "
+        "00:00:00'");
     QCOMPARE(frmAviso().findChild<ListView*>(QStringLiteral("lvList"))->count(), 0);
     office_->run("UPDATE Adiantamento SET FECHAMENTO = NULL");
     QCOMPARE(frmAviso().findChild<ListView*>(QStringLiteral("lvList"))->count(), 1);

@@ -181,8 +181,7 @@ class frmCadastroNotasTest : public QObject {
     desk_->openNotes();
     note("", "9", "X", "1");
     ScriptedDialogs dialogs;
-    dialogs.expectBox(
-        boxes::internalError(ErrorNumber::TypeMismatch, "Função Save_reg"));
+    dialogs.expectBox(boxes::internalError(ErrorNumber::TypeMismatch, "Função Save_reg"));
     desk_->click("Command1_2");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->text("txtrazao_social"), QString("X"));

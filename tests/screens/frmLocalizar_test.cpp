@@ -12,8 +12,8 @@
 #include "platform/values/RuntimeError.h"
 #include "records/Principal.h"
 #include "tests/support/ScriptedDialogs.h"
-#include "tests/support/office/OfficeMain.h"
 #include "tests/support/office/Boxes.h"
+#include "tests/support/office/OfficeMain.h"
 #include "tests/support/office/Samples.h"
 
 namespace quartela {

@@ -27,7 +27,8 @@ class frmProcuraTest : public QObject {
         "INSERT INTO Tipos(SEQUENCIA, IDORGAO, TIPO) VALUES (2, 1, 'Viagem');"
         "INSERT INTO Requisicao(SEQ, DATA, ORGAO, TOMADOR, VALOR, FINALIDADE) VALUES "
         "(214, '2014-10-01 00:00:00', 1, 2, 12345600, 2), (314, '2014-10-01 00:00:00', 1, 2, 5, 2);"
-        "INSERT INTO Adiantamento(EMPENHO, PROCESSO, ABERTURA, RETIRADA, FECHAR_EM, FECHAMENTO) VALUES "
+        "INSERT INTO Adiantamento(EMPENHO, PROCESSO, ABERTURA, RETIRADA, FECHAR_EM, FECHAMENTO) "
+        "VALUES "
         "(60014, 214, '2014-10-02 00:00:00', '2014-10-03 00:00:00', '2014-10-08 00:00:00', NULL),"
         "(70014, 314, '2014-10-02 00:00:00', '2014-10-03 00:00:00', '2014-10-08 00:00:00', "
         "'2014-10-07 00:00:00')");
@@ -61,10 +62,14 @@ class frmProcuraTest : public QObject {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QStringList>("rows");
-    QTest::newRow("by name") << 1 << false << "ávila" << "ÁVILA" << QStringList{"00600/14"};
-    QTest::newRow("by type") << 1 << true << "miú" << "MIÚ" << QStringList{"00500/14"};
-    QTest::newRow("nothing found") << 1 << false << "xyz" << "XYZ" << QStringList{};
-    QTest::newRow("always over the open ones") << 2 << false << "josé" << "JOSÉ" << QStringList{"00600/14"};
+    QTest::newRow("by name") << 1 << false << "ávila"
+                             << "ÁVILA" << QStringList{"00600/14"};
+    QTest::newRow("by type") << 1 << true << "miú"
+                             << "MIÚ" << QStringList{"00500/14"};
+    QTest::newRow("nothing found") << 1 << false << "xyz"
+                                   << "XYZ" << QStringList{};
+    QTest::newRow("always over the open ones") << 2 << false << "josé"
+                                               << "JOSÉ" << QStringList{"00600/14"};
   }
   void searchesByNameAndByType() {
     QFETCH(int, mode);
@@ -112,8 +117,8 @@ class frmProcuraTest : public QObject {
     QTest::keyClick(list(), Qt::Key_Return);
     QCOMPARE(received_.size(), 1);
     QCOMPARE(received_.first().second.subitens,
-             QStringList({"", "José Ávila", "Viagem", "1.234,56", "03/10/2014", "08/10/2014", "02/10/2014",
-                          "Fiscal", "0002/14"}));
+             QStringList({"", "José Ávila", "Viagem", "1.234,56", "03/10/2014", "08/10/2014",
+                          "02/10/2014", "Fiscal", "0002/14"}));
   }
 
   void withNothingPickedOkStays() {

@@ -69,18 +69,20 @@ class frmOficceTest : public QObject {
   void opensUnderFilterOneWhateverItWas() {
     QCOMPARE(FiltroStatus, std::int16_t{1});
     QCOMPARE(shown(), QStringList({"0002/14", "0001/14"}));
-    QCOMPARE(window_->sbStatusBar().panelText(1), QStringLiteral("Total: 2 Registros Localizados...."));
+    QCOMPARE(window_->sbStatusBar().panelText(1),
+             QStringLiteral("Total: 2 Registros Localizados...."));
     QCOMPARE(window_->windowTitle(), QStringLiteral("Quartela 2014"));
   }
 
   void theColumnsStandAsGiven() {
-    const QStringList headers{"N°.",         "EMPENHO", "DATA",     "SECRETARIA", "RESPONSAVEL", "VALOR",
-                              "TIPO",        "ABERTURA", "RETIRADA", "FECHAR EM",  "FECHAMENTO",  "DIAS"};
+    const QStringList headers{"N°.",  "EMPENHO",  "DATA",     "SECRETARIA", "RESPONSAVEL", "VALOR",
+                              "TIPO", "ABERTURA", "RETIRADA", "FECHAR EM",  "FECHAMENTO",  "DIAS"};
     const QList<int> widths{2293, 2117, 2646, 4410, 4410, 1940, 3528, 2646, 2646, 2646, 2646, 1411};
     QCOMPARE(list().columnCount(), int(headers.size()));
     for (int n = 0; n < headers.size(); ++n) {
       QCOMPARE(list().model()->headerData(n, Qt::Horizontal).toString(), headers.at(n));
-      const int width = ColumnWidth::hundredthsOfMillimetre(widths.at(n)).toPixels(list().logicalDpiX());
+      const int width =
+          ColumnWidth::hundredthsOfMillimetre(widths.at(n)).toPixels(list().logicalDpiX());
       // The first column makes room for the row's icon beside its number.
       QVERIFY(n == 0 ? list().columnWidth(n) >= width : list().columnWidth(n) == width);
     }
@@ -275,8 +277,8 @@ class frmOficceTest : public QObject {
   void aDatabaseThatIsGoneIsToldForEachCommand() {
     Conexao->close();
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::internalError(ErrorNumber::ObjectClosed,
-                                           QStringLiteral("Função Lista_Movimento")));
+    dialogs.expectBox(
+        boxes::internalError(ErrorNumber::ObjectClosed, QStringLiteral("Função Lista_Movimento")));
     press(QStringLiteral("21"));
     Abre_conexao();
     press(QStringLiteral("21"));
@@ -285,9 +287,9 @@ class frmOficceTest : public QObject {
 
   void aProgramThatIsMissingIsTold() {
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox(
-        {.text = QStringLiteral("O aplicativo não foi localizado !!! Verifique sua localização ..."),
-         .icon = BoxIcon::Exclamation});
+    dialogs.expectBox({.text = QStringLiteral(
+                           "O aplicativo não foi localizado !!! Verifique sua localização ..."),
+                       .icon = BoxIcon::Exclamation});
     frmOficce::LoadEXE(office_->file(QStringLiteral("sumido.exe")));
   }
 

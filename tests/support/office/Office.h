@@ -1,5 +1,5 @@
-// A town hall's office for one test: a fresh program folder with its settings, counter, passwords and a
-// database of its own, open as Conexao.
+// A town hall's office for one test: a fresh program folder with its settings, counter, passwords
+// and a database of its own, open as Conexao.
 #pragma once
 
 #include <QString>
@@ -8,8 +8,8 @@
 namespace quartela::test {
 
 enum class Data {
-  Empty,           // reference data only
-  Demonstration,   // a small town with 60 processes, as of 21/11/2014
+  Empty,          // reference data only
+  Demonstration,  // a small town with 60 processes, as of 21/11/2014
 };
 
 class Office {
@@ -25,7 +25,8 @@ class Office {
   QString counter() const { return file(QStringLiteral("Number.Ini")); }
   QString config() const { return file(QStringLiteral("Config.ini")); }
 
-  // The first cell of the first row of plain SQL, as text, read beside the program's own connection;
+  // The first cell of the first row of plain SQL, as text, read beside the program's own
+  // connection;
   // "" for null and for no row.
   QString ask(const char* sql) const;
   // Runs plain SQL (several statements, foreign keys enforced) beside the program's own connection.

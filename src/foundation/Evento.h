@@ -1,6 +1,8 @@
 // The events of a screen that may end in an error.
 #pragma once
 
+#include <concepts>
+
 #include "foundation/Aplicacao.h"
 
 namespace quartela {
@@ -10,12 +12,21 @@ namespace quartela {
 // routines then give up nothing of what they hold.
 template <typename Corpo>
 auto Evento(Corpo corpo) {
-  return [corpo] {
+  return [corpo]<typename... Argumentos>(
+      Argumentos... argumentos) requires std::invocable<const Corpo&, Argumentos...> {
     try {
-      corpo();
+      corpo(argumentos...);
     } catch (const RuntimeError& erro) {
       mostra_erro_sem_trava(erro);
     }
+  };
+}
+
+// The same for a routine of `tela`.
+template <typename Tela, typename... Argumentos>
+auto Evento(Tela* tela, void (Tela::*rotina)(Argumentos...)) {
+  return [tela, rotina](Argumentos... argumentos) {
+    Evento([=] { (tela->*rotina)(argumentos...); })();
   };
 }
 
