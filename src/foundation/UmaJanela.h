@@ -34,6 +34,9 @@ class UmaJanela {
 
   static void mostra() {
     Janela& janela = instancia();
+    if (janela.isHidden()) {
+      OpenForms::centreOnParent(janela);
+    }
     janela.show();
     janela.raise();
     janela.activateWindow();

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QEvent>
 #include <QPointer>
+#include <QScreen>
 #include <QWidget>
 #include <algorithm>
 
@@ -69,6 +70,21 @@ void add(QWidget* form) {
     }
   }
   watches().append(new CloseWatch(form));
+}
+
+void centreOnParent(QWidget& form) {
+  const QWidget* const parent = form.parentWidget();
+  if (parent == nullptr) {
+    return;
+  }
+  QRect place(QPoint(), form.size());
+  place.moveCenter(parent->frameGeometry().center());
+  const QRect screen = parent->screen()->availableGeometry();
+  place.moveLeft(std::clamp(place.left(), screen.left(),
+                            std::max(screen.left(), screen.right() - place.width())));
+  place.moveTop(std::clamp(place.top(), screen.top(),
+                           std::max(screen.top(), screen.bottom() - place.height())));
+  form.move(place.topLeft());
 }
 
 QList<QWidget*> all() {

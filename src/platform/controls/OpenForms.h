@@ -9,12 +9,17 @@ class QWidget;
 
 namespace quartela::OpenForms {
 
-// The window that those entered from now on stay above; null for none. Not owned; it need not be entered.
+// The window that those entered from now on stay above; null for none. Not owned; it need not be
+// entered.
 void setMainWindow(QWidget* window);
 
-// Enters a window, and puts one without a parent above the main window. It leaves by itself when it is closed or destroyed. Not owned; entering it twice
-// changes nothing.
+// Enters a window, and puts one without a parent above the main window. It leaves by itself when it
+// is closed or destroyed. Not owned; entering it twice changes nothing.
 void add(QWidget* form);
+
+// Puts a window in the middle of the one that it stays above, as far as the screen allows; one
+// without a parent stays where the window system puts it.
+void centreOnParent(QWidget& form);
 
 // From the first opened to the last.
 QList<QWidget*> all();

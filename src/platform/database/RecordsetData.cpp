@@ -173,7 +173,7 @@ void Recordset::Data::begin(SqliteSession& in, bool adding) {
 }
 
 void Recordset::Data::requireRowInFile(SqliteSession& in) const {
-  const sqlite::RowWriter writer(in.handle(), targetTable(in), layout.inTable);
+  const sqlite::RowWriter writer(in, targetTable(in), layout.inTable);
   if (!writer.exists(currentKey())) {
     throw RuntimeError(ErrorNumber::RowDeleted);
   }
@@ -200,7 +200,7 @@ Cells Recordset::Data::currentKey() const {
 // The row as the file then has it stands behind the others until the file has it for good.
 void Recordset::Data::write(SqliteSession& to) {
   sqlite::WriteScope scope(to);
-  const sqlite::RowWriter writer(to.handle(), targetTable(to), layout.inTable);
+  const sqlite::RowWriter writer(to, targetTable(to), layout.inTable);
   if (edit->adding) {
     writer.insert(cellsSet(), rows);
   } else {

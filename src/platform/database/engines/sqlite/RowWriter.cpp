@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/database/engines/sqlite/Session.h"
 #include "platform/values/RuntimeError.h"
 
 namespace quartela::sqlite {
@@ -52,9 +53,9 @@ const CellToWrite* cellOf(const Cells& cells, const QString& column) {
 
 }  // namespace
 
-RowWriter::RowWriter(sqlite3* db, const CatalogueTable& table,
+RowWriter::RowWriter(SqliteSession& session, const CatalogueTable& table,
                      const std::vector<LoadedColumn>& returned)
-    : db_(db), table_(table), returned_(returned) {}
+    : session_(session), table_(table), returned_(returned) {}
 
 void RowWriter::insert(const Cells& cells, ResultRows& rows) const {
   requireCells(cells);
@@ -72,7 +73,8 @@ void RowWriter::change(const Cells& key, const Cells& cells, ResultRows& rows) c
 
 bool RowWriter::exists(const Cells& key) const {
   Statement statement(
-      db_, "SELECT 1 FROM " + quoted(table_.name) + " WHERE " + assignments(key, 1, " AND "),
+      session_.handle(),
+      "SELECT 1 FROM " + quoted(table_.name) + " WHERE " + assignments(key, 1, " AND "),
       Activity::Reading);
   bindAll(statement, key, 1);
   return statement.step();
@@ -102,7 +104,7 @@ void RowWriter::refuseNulls(const Cells& cells) const {
 }
 
 bool RowWriter::hasDefault(const CatalogueColumn& column) const {
-  Statement statement(db_,
+  Statement statement(session_.handle(),
                       "SELECT 1 FROM pragma_table_info(?1)"
                       " WHERE name = ?2 AND dflt_value IS NOT NULL",
                       Activity::Reading);
@@ -122,7 +124,7 @@ std::string RowWriter::returning() const {
 
 bool RowWriter::runAndLoad(const std::string& sql, const Cells& first, const Cells& second,
                            ResultRows& rows) const {
-  Statement statement(db_, sql, Activity::Writing);
+  Statement statement(session_.handle(), session_.prepared(sql), Activity::Writing);
   bindAll(statement, first, 1);
   bindAll(statement, second, first.size() + 1);
   const int before = rows.rowCount();

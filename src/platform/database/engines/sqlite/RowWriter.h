@@ -7,6 +7,10 @@
 #include "platform/database/dialect/Catalogue.h"
 #include "platform/database/engines/sqlite/RowLoader.h"
 
+namespace quartela {
+class SqliteSession;
+}
+
 namespace quartela::sqlite {
 
 struct CellToWrite {
@@ -18,7 +22,8 @@ class RowWriter {
  public:
   // `returned` are the columns of the row that is given back after the writing; an empty name is a
   // column that the table does not have, and comes back null. All must outlive the writer.
-  RowWriter(sqlite3* db, const CatalogueTable& table, const std::vector<LoadedColumn>& returned);
+  RowWriter(SqliteSession& session, const CatalogueTable& table,
+            const std::vector<LoadedColumn>& returned);
 
   // Both add the row as it then stands to `rows`. Errors: 3314 naming the column, before the engine
   // is asked; what the engine refuses; 3167 when there is no row of that key.
@@ -37,7 +42,7 @@ class RowWriter {
   bool runAndLoad(const std::string& sql, const std::vector<CellToWrite>& first,
                   const std::vector<CellToWrite>& second, ResultRows& rows) const;
 
-  sqlite3* db_;
+  SqliteSession& session_;
   const CatalogueTable& table_;
   const std::vector<LoadedColumn>& returned_;
 };

@@ -115,6 +115,25 @@ SqliteSession::~SqliteSession() {
   giveUpTransaction();
 }
 
+sqlite3_stmt* SqliteSession::prepared(const std::string& sql) {
+  // The program writes through a few dozen texts; more than these would be a leak in disguise.
+  constexpr std::size_t kMostKept = 64;
+  const auto kept = prepared_.find(sql);
+  if (kept != prepared_.end()) {
+    return kept->second.get();
+  }
+  if (prepared_.size() == kMostKept) {
+    prepared_.clear();
+  }
+  sqlite3_stmt* statement = nullptr;
+  sqlite::check(handle(),
+                sqlite3_prepare_v3(handle(), sql.data(), static_cast<int>(sql.size()),
+                                   SQLITE_PREPARE_PERSISTENT, &statement, nullptr),
+                sqlite::Activity::Preparing);
+  prepared_.emplace(sql, statement);
+  return statement;
+}
+
 void SqliteSession::beginTransaction() {
   if (transaction_) {
     throw RuntimeError(ErrorNumber::InvalidProcedureCall,

@@ -10,6 +10,8 @@
 
 #include <QString>
 #include <memory>
+#include <string>
+#include <unordered_map>
 
 #include "platform/database/dialect/Catalogue.h"
 
@@ -21,6 +23,11 @@ struct CloseHandle {
   void operator()(sqlite3* db) const;
 };
 using Handle = std::unique_ptr<sqlite3, CloseHandle>;
+
+struct FinalizeStatement {
+  void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+};
+using PreparedStatement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
 class WriteScope;
 
@@ -38,6 +45,11 @@ class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
 
   sqlite3* handle() const { return db_.get(); }
   const Catalogue& catalogue() const { return catalogue_; }
+
+  // The statement prepared for that text, made at its first use and kept for the next: preparing a
+  // write with its checks takes longer than running it. Owned by the session; to be used by a
+  // Statement.
+  sqlite3_stmt* prepared(const std::string& sql);
 
   // The transaction of Connection, one at a time. Error 5 for a second one, and for a commit
   // without one or when the engine has given it up by itself. A rollback without one does nothing.
@@ -62,6 +74,8 @@ class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
   void keepLock();
 
   sqlite::Handle db_;
+  // Finalised before the handle is closed.
+  std::unordered_map<std::string, sqlite::PreparedStatement> prepared_;
   Catalogue catalogue_;
   bool transaction_ = false;
   int lockHolders_ = 0;

@@ -11,9 +11,17 @@ Statement::Statement(sqlite3* db, std::string_view sql, Activity activity)
         activity == Activity::Opening ? activity : Activity::Preparing);
 }
 
+Statement::Statement(sqlite3* db, sqlite3_stmt* kept, Activity activity)
+    : db_(db), statement_(kept), activity_(activity), kept_(true) {}
+
 Statement::~Statement() {
-  // The code only repeats what the last step has raised already.
-  static_cast<void>(sqlite3_finalize(statement_));
+  // The codes only repeat what the last step has raised already.
+  if (kept_) {
+    static_cast<void>(sqlite3_reset(statement_));
+    static_cast<void>(sqlite3_clear_bindings(statement_));
+  } else {
+    static_cast<void>(sqlite3_finalize(statement_));
+  }
 }
 
 void Statement::bind(int index, const Value& value) {

@@ -12,6 +12,8 @@ class Statement {
  public:
   // `sql` is one statement in UTF-8. `activity` says how the engine's refusals are to be read.
   Statement(sqlite3* db, std::string_view sql, Activity activity);
+  // One that somebody else keeps for its next use: it is reset, not finalised.
+  Statement(sqlite3* db, sqlite3_stmt* kept, Activity activity);
   ~Statement();
   Statement(const Statement&) = delete;
   Statement& operator=(const Statement&) = delete;
@@ -37,6 +39,7 @@ class Statement {
   sqlite3* db_;
   sqlite3_stmt* statement_ = nullptr;
   Activity activity_;
+  bool kept_ = false;
 };
 
 // Runs a statement that gives no rows, or whose rows nobody reads.
