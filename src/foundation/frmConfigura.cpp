@@ -91,6 +91,7 @@ void frmConfigura::keyPressEvent(QKeyEvent* evento) {
 
 void mostra_frmConfigura() {
   try {
+    UmaJanela<frmConfigura>::instancia().setWindowModality(Qt::ApplicationModal);
     UmaJanela<frmConfigura>::mostra();
   } catch (const RuntimeError& erro) {
     mostra_erro_sem_trava(erro);

@@ -61,7 +61,7 @@ class frmConfigura_test : public QObject {
     QCOMPARE(edit("txtSenha")->displayText(), "***");
     QVERIFY(check("Check1")->isChecked());
     QVERIFY(!check("Check2")->isChecked());
-    QVERIFY(!window_->isModal());
+    QVERIFY(window_->isModal());
   }
 
   void bearsItsWords() {

@@ -148,6 +148,60 @@ class frmOficceTest : public QObject {
     QVERIFY(UmaJanela<frmLocalizar>::aberta() != nullptr);
   }
 
+  void buttonsOpenAndCloseTheirWindows_data() {
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("0") << "0" << "frmCadastro";
+    QTest::newRow("1") << "1" << "frmCadastro";
+    QTest::newRow("4") << "4" << "frmLocalizar";
+    QTest::newRow("9") << "9" << "frmExecutor";
+    QTest::newRow("10") << "10" << "frmTomador";
+    QTest::newRow("11") << "11" << "frmTipos";
+    QTest::newRow("12") << "12" << "frmTipoDespesa";
+    QTest::newRow("13") << "13" << "frmDotacao";
+    QTest::newRow("25") << "25" << "frmOrgao";
+  }
+  void buttonsOpenAndCloseTheirWindows() {
+    QFETCH(QString, key);
+    QFETCH(QString, name);
+    completeTheProcesses();
+    click(0);
+    press(key);
+    QWidget* form = OpenForms::find(name);
+    QVERIFY(form != nullptr);
+    QVERIFY(form->isVisible());
+    QCOMPARE(form->parentWidget(), window_.get());
+    press(key);
+    QVERIFY(OpenForms::find(name) == nullptr);
+    press(key);
+    QVERIFY(OpenForms::find(name) != nullptr);
+  }
+
+  void theProcessScreenIsToldWhatToDo() {
+    completeTheProcesses();
+    click(0);
+    press(QStringLiteral("1"));
+    QCOMPARE(ModoAlteracao, std::int16_t{-1});
+    press(QStringLiteral("0"));
+    QCOMPARE(ModoAlteracao, std::int16_t{-1});
+    press(QStringLiteral("0"));
+    QCOMPARE(ModoAlteracao, std::int16_t{0});
+  }
+
+  void theSettingsAreModal() {
+    press(QStringLiteral("15"));
+    QVERIFY(UmaJanela<frmConfigura>::aberta() != nullptr);
+    QCOMPARE(QApplication::activeModalWidget(), UmaJanela<frmConfigura>::aberta());
+  }
+
+  void theRibbonIsEnteredAndLeftByKeyboard() {
+    list().setFocus();
+    QTest::keyClick(&list(), Qt::Key_F10);
+    QVERIFY(window_->Ribbon().hasFocus());
+    QTest::keyClick(&window_->Ribbon(), Qt::Key_Escape);
+    QVERIFY(list().hasFocus());
+  }
+
   void theAlertButtonShowsTheAlert() {
     office_->run("UPDATE Adiantamento SET FECHAR_EM = '2014-11-21 00:00:00'");
     bool seen = false;
@@ -314,9 +368,17 @@ class frmOficceTest : public QObject {
     });
     emit list().contextMenuRequested(0, window_->mapToGlobal(QPoint(50, 200)));
     QCOMPARE(words.mid(0, 2), QStringList({"&Alterar requisição", "&Excluir requisição"}));
+    QVERIFY(words.contains(QStringLiteral("&Incisos")));
   }
 
  private:
+  // What the process screen needs of a process to show it: a type of its secretariat, an allocation.
+  void completeTheProcesses() const {
+    office_->run(
+        "UPDATE Tipos SET IDORGAO = 2;"
+        "INSERT INTO Dotacao(IDTIPO, IDORGAO, DOTACAO, ANO) VALUES (1, 2, 128, 2014);"
+        "UPDATE Requisicao SET FICHA = '128', JUSTIFICATIVA = 'Despesas';");
+  }
   ListView& list() const { return window_->ListView1(); }
   void press(const QString& key) const { emit window_->Ribbon().ButtonClick(key, QString()); }
   void click(int row) const {
