@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QProcess>
+#include <QScreen>
 #include <array>
 
 #include "foundation/Banco.h"
@@ -107,7 +108,7 @@ frmOficce::frmOficce(QWidget* parent)
   setObjectName(QStringLiteral("frmOficce"));
   setWindowTitle(QStringLiteral("Quartela 2014"));
   Estilo::prepara_janela(*this);
-  resize(1340, 690);
+  resize(QSize(1340, 690).boundedTo(screen()->availableSize()));
   setMinimumSize(640, 360);
   OpenForms::setMainWindow(this);
   prepara_lista();
