@@ -7,12 +7,12 @@
 namespace quartela::reporting {
 namespace {
 
-QFont fontOf(const FontSpec& spec) {
-  QFont font(spec.family);
-  font.setPixelSize(static_cast<int>(std::lround(spec.points * kTwipsPerPoint)));
-  font.setBold(spec.bold);
-  font.setItalic(spec.italic);
-  font.setUnderline(spec.underline);
+QFont fontOf(const FontSpec& style) {
+  QFont font(style.family);
+  font.setPixelSize(static_cast<int>(std::lround(style.points * kTwipsPerPoint)));
+  font.setBold(style.bold);
+  font.setItalic(style.italic);
+  font.setUnderline(style.underline);
   font.setKerning(false);
   font.setHintingPreference(QFont::PreferNoHinting);
   return font;
@@ -26,23 +26,23 @@ bool joinsLetters(QChar first, QChar second) {
 
 }  // namespace
 
-const Face& Face::of(const FontSpec& spec) {
+const Face& Face::of(const FontSpec& style) {
   struct Entry {
-    FontSpec spec;
+    FontSpec style;
     std::unique_ptr<const Face> face;
   };
   static std::vector<Entry> faces;
   for (const Entry& entry : faces) {
-    if (entry.spec == spec) {
+    if (entry.style == style) {
       return *entry.face;
     }
   }
-  faces.push_back({spec, std::unique_ptr<const Face>(new Face(spec))});
+  faces.push_back({style, std::unique_ptr<const Face>(new Face(style))});
   return *faces.back().face;
 }
 
-Face::Face(const FontSpec& spec)
-    : font_(fontOf(spec)),
+Face::Face(const FontSpec& style)
+    : font_(fontOf(style)),
       metrics_(font_),
       ascent_(metrics_.ascent()),
       lineHeight_(metrics_.ascent() + metrics_.descent()) {

@@ -16,9 +16,9 @@ namespace quartela::reporting {
 
 class Face {
  public:
-  // The face of the spec, made at the first call and kept as long as the program. For the thread of
+  // The face of the style, made at the first call and kept as long as the program. For the thread of
   // the windows only.
-  static const Face& of(const FontSpec& spec);
+  static const Face& of(const FontSpec& style);
 
   const QFont& font() const { return font_; }
   double ascent() const { return ascent_; }
@@ -30,7 +30,7 @@ class Face {
   // whole.
   static constexpr std::size_t kTable = 0x180;
 
-  explicit Face(const FontSpec& spec);
+  explicit Face(const FontSpec& style);
 
   QFont font_;
   QFontMetricsF metrics_;
