@@ -2,16 +2,16 @@
 
 #include <QApplication>
 #include <QFont>
-#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStyleFactory>
 #include <QWidget>
 #include <cmath>
+
+#include "foundation/Escape.h"
 
 // The pictures that are compiled in; a static library's are taken up only when asked for, and that
 // from outside of every namespace.
@@ -117,8 +117,7 @@ void esconde_senha(QLineEdit& campo) {
 }
 
 void botao_de_escape(QPushButton& botao) {
-  auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), botao.window());
-  QObject::connect(escape, &QShortcut::activated, &botao, &QPushButton::click);
+  Ao_escapar(*botao.window(), [&botao] { botao.click(); });
 }
 
 QIcon marca() {

@@ -11,7 +11,7 @@
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
-#include "masterdata/Escape.h"
+#include "foundation/Escape.h"
 #include "masterdata/ItemCadastro.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/TwoPageTab.h"

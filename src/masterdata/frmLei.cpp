@@ -5,7 +5,7 @@
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
-#include "masterdata/Escape.h"
+#include "foundation/Escape.h"
 #include "masterdata/ItemCadastro.h"
 #include "masterdata/TelaCadastro.h"
 #include "masterdata/cInciso.h"

@@ -1,5 +1,6 @@
 #include "foundation/frmLogin.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDateTime>
 #include <QDir>
@@ -65,6 +66,16 @@ class frmLogin_test : public QObject {
     Fecha_banco();
     setScreenPointer(PointerShape::Normal);
     folder_.reset();
+  }
+
+  void escapeOnTheOpenListClosesTheListOnly() {
+    combo()->setFocus();
+    combo()->showPopup();
+    QTRY_VERIFY(combo()->view()->isVisible());
+    QTest::keyClick(combo()->view(), Qt::Key_Escape);
+    QTRY_VERIFY(!combo()->view()->isVisible());
+    QVERIFY(window_);
+    QVERIFY(window_->isVisible());
   }
 
   void showsItsControls() {

@@ -1,4 +1,4 @@
-#include "masterdata/Escape.h"
+#include "foundation/Escape.h"
 
 #include <QEvent>
 #include <QKeyEvent>
