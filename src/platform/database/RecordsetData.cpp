@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/database/engines/sqlite/LeastMatch.h"
 #include "platform/database/engines/sqlite/Parameters.h"
 #include "platform/database/engines/sqlite/RowLoader.h"
 #include "platform/values/RuntimeError.h"
@@ -78,11 +79,28 @@ Recordset::Data::Data(SqliteSession& from, dialect::EngineStatement translated, 
       rows(rowsFor(layout.loaded)) {}
 
 void Recordset::Data::load(SqliteSession& from) {
+  if (statement.leastMatch && loadLeastMatch(from)) {
+    return;
+  }
   sqlite::Statement select(from.handle(), statement.sql, sqlite::Activity::Reading);
   sqlite::bindParameters(select, statement);
   while (select.step()) {
     sqlite::loadRow(select, layout.loaded, rows);
   }
+}
+
+bool Recordset::Data::loadLeastMatch(SqliteSession& from) {
+  const sqlite::FoundText found = sqlite::findLeastMatch(from, *statement.leastMatch);
+  if (found.text) {
+    sqlite::Statement select(from.handle(), from.prepared(statement.leastMatch->sql),
+                             sqlite::Activity::Reading);
+    select.bind(1, QString::fromStdString(*found.text));
+    if (!select.step()) {
+      return false;
+    }
+    sqlite::loadRow(select, layout.loaded, rows);
+  }
+  return found.known;
 }
 
 std::shared_ptr<SqliteSession> Recordset::Data::openSession() const {

@@ -40,6 +40,8 @@ struct Recordset::Data {
 
   // Reads all rows; the first one is then current.
   void load(SqliteSession& from);
+  // For a statement that asks for the least match; false when it has to be run as it is.
+  bool loadLeastMatch(SqliteSession& from);
   // Error 3704 when the connection has been closed meanwhile.
   std::shared_ptr<SqliteSession> openSession() const;
   const CatalogueTable& targetTable(const SqliteSession& from) const;

@@ -1,6 +1,7 @@
 #include "platform/database/dialect/Dialect.h"
 
 #include "platform/database/dialect/Binder.h"
+#include "platform/database/dialect/LeastMatchFinder.h"
 #include "platform/database/dialect/Parser.h"
 #include "platform/database/dialect/Renderer.h"
 
@@ -43,6 +44,7 @@ EngineStatement translate(QStringView statement, const Catalogue& catalogue) {
   engine.sql = Renderer(bound).render(engine.parameters);
   if (bound.kind == StatementKind::Select) {
     describeResult(bound, engine);
+    engine.leastMatch = findLeastMatch(bound);
   }
   return engine;
 }

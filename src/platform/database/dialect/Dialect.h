@@ -8,6 +8,7 @@
 
 #include <QString>
 #include <QStringView>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,16 @@ enum class Parameter : std::uint8_t {
   Now,  // the clock's moment as ISO text "YYYY-MM-DD HH:MM:SS"
 };
 
+// A SELECT TOP 1 of a table's text column that begins with some letters, in that column's order. An
+// engine whose index on the column is in another order can find the text letter by letter and then
+// run `sql`, where ?1 is the text, instead of sorting all that begin so.
+struct LeastMatch {
+  QString table;
+  QString column;
+  std::string prefix;  // UTF-8
+  std::string sql;
+};
+
 struct EngineStatement {
   StatementKind kind = StatementKind::Select;
   std::string sql;                    // UTF-8, SQLite's dialect
@@ -44,6 +55,8 @@ struct EngineStatement {
   // `keyColumns`, the columns of its primary key.
   QString updatableTable;
   std::vector<QString> keyColumns;
+
+  std::optional<LeastMatch> leastMatch;  // when the statement is one
 };
 
 // Translates one statement, of at most 65,536 characters and limited nesting (3075 beyond).

@@ -35,6 +35,17 @@ std::string Renderer::render(std::vector<Parameter>& parameters) {
   return std::move(out_);
 }
 
+std::string Renderer::renderExact(Index column) {
+  out_ += "SELECT ";
+  outputs(*statement_.select, false);
+  out_ += " FROM ";
+  from(statement_.select->from);
+  out_ += " WHERE ";
+  expression(column);
+  out_ += " = ?1 COLLATE NOCASE LIMIT 1";
+  return std::move(out_);
+}
+
 void Renderer::select(const Select& select, bool derived) {
   out_ += select.distinct ? "SELECT DISTINCT " : "SELECT ";
   outputs(select, derived);

@@ -22,6 +22,10 @@ class Renderer {
   // measure.
   std::string render(std::vector<Parameter>& parameters);
 
+  // The SELECT without its conditions and order, of the one row whose `column` is the text ?1 or
+  // differs from it in the case of ASCII letters only.
+  std::string renderExact(Index column);
+
  private:
   // Statements (Renderer.cpp).
   void select(const bound::Select& select, bool derived);

@@ -151,12 +151,20 @@ int order(T a, T b) {
 }
 
 std::size_t firstCharacter(std::string_view text) {
-  const unsigned char* at = bytesOf(text);
-  decode(at, at + text.size());
-  return static_cast<std::size_t>(at - bytesOf(text));
+  return firstLatinCharacter(text).bytes;
 }
 
 }  // namespace
+
+LatinCharacter firstLatinCharacter(std::string_view text) {
+  const unsigned char* at = bytesOf(text);
+  const char32_t character = decode(at, at + text.size());
+  const Letter letter = letterOf(character);
+  return {.bytes = static_cast<std::size_t>(at - bytesOf(text)),
+          .folded = letter.folded,
+          .base = letter.base,
+          .valid = character < kInvalidByte};
+}
 
 int compareLatin(std::string_view a, std::string_view b) {
   const unsigned char* left = bytesOf(a);

@@ -9,6 +9,7 @@
 
 #include <sqlite3.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,15 @@ int compareLatin(std::string_view a, std::string_view b);
 
 // The UTF-8 text with its letters folded, so that texts which compare as equal are the same bytes.
 std::string foldLatin(std::string_view text);
+
+// The first character of a text that is not empty.
+struct LatinCharacter {
+  std::size_t bytes = 0;
+  char32_t folded = 0;  // as foldLatin changes it
+  char32_t base = 0;    // folded, without its accents
+  bool valid = false;   // false: a byte that is no UTF-8
+};
+LatinCharacter firstLatinCharacter(std::string_view text);
 
 // A pattern of Like, made ready once and matched with many texts.
 class LikePattern {
