@@ -1,5 +1,6 @@
 #include "tests/support/ScriptedDialogs.h"
 
+#include <QPrinter>
 #include <QtTest>
 #include <utility>
 
@@ -64,6 +65,7 @@ QString describe(const InputRequest& request) {
 
 const QString kOpen = QStringLiteral("open dialog");
 const QString kSave = QStringLiteral("save dialog");
+const QString kPrinter = QStringLiteral("print dialog");
 
 // Whether `dialog` is what was expected; kAnything in the expectation stands for any text.
 bool fits(const QString& expected, const QString& dialog) {
@@ -89,6 +91,10 @@ class RefusedDialogs : public DialogHost {
   QString saveFile(const FileRequest& request) override { return refuse(describe(kSave, request)); }
   QString pickFolder(const QString& title) override { return refuse(describeFolder(title)); }
   QString input(const InputRequest& request) override { return refuse(describe(request)); }
+  bool printer(QPrinter& /*printer*/) override {
+    refuse(kPrinter);
+    return false;
+  }
 
  private:
   static QString refuse(const QString& dialog) {
@@ -131,6 +137,10 @@ void ScriptedDialogs::expectPickFolder(const QString& title, const QString& answ
 
 void ScriptedDialogs::expectInput(const InputRequest& request, const QString& answer) {
   expected_.append({describe(request), Button::Ok, answer, {}});
+}
+
+void ScriptedDialogs::expectPrinter(const QString& answer) {
+  expected_.append({kPrinter, Button::Ok, answer, {}});
 }
 
 const char* ScriptedDialogs::report() const {
@@ -190,6 +200,16 @@ QString ScriptedDialogs::pickFolder(const QString& title) {
 QString ScriptedDialogs::input(const InputRequest& request) {
   Expectation expectation;
   return take(describe(request), expectation) ? expectation.text : QString();
+}
+
+bool ScriptedDialogs::printer(QPrinter& printer) {
+  Expectation expectation;
+  if (!take(kPrinter, expectation) || expectation.text.isEmpty()) {
+    return false;
+  }
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(expectation.text);
+  return true;
 }
 
 }  // namespace quartela::test

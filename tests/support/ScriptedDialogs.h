@@ -40,6 +40,8 @@ class ScriptedDialogs : public DialogHost {
   void expectOpenFile(const FileRequest& request, const QString& answer);
   void expectSaveFile(const FileRequest& request, const QString& answer);
   void expectPickFolder(const QString& title, const QString& answer);
+  // The operator prints into the PDF file `answer`; an empty one cancels.
+  void expectPrinter(const QString& answer);
   void expectInput(const InputRequest& request, const QString& answer);
 
   // Everything came as expected, in that order, and nothing else did.
@@ -57,6 +59,7 @@ class ScriptedDialogs : public DialogHost {
   QString saveFile(const FileRequest& request) override;
   QString pickFolder(const QString& title) override;
   QString input(const InputRequest& request) override;
+  bool printer(QPrinter& printer) override;
 
  private:
   // A dialog as text, kind first, so that what came and what was expected compare and read alike.

@@ -40,6 +40,10 @@ QString input(const InputRequest& request) {
   return host().input(request);
 }
 
+bool printer(QPrinter& printer) {
+  return host().printer(printer);
+}
+
 void information(const QString& text, const QString& title) {
   tell(text, title, BoxIcon::Information);
 }

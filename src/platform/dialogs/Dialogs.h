@@ -6,7 +6,7 @@
 #include <QString>
 #include <memory>
 
-class QWidget;
+class QPrinter;
 
 namespace quartela {
 
@@ -46,6 +46,8 @@ class DialogHost {
   virtual QString pickFolder(const QString& title) = 0;
   // The typed text; empty when cancelled.
   virtual QString input(const InputRequest& request) = 0;
+  // Lets the operator choose and set up the printer; false when cancelled.
+  virtual bool printer(QPrinter& printer) = 0;
 };
 
 namespace Dialogs {
@@ -55,6 +57,7 @@ QString openFile(const FileRequest& request);
 QString saveFile(const FileRequest& request);
 QString pickFolder(const QString& title);
 QString input(const InputRequest& request);
+bool printer(QPrinter& printer);
 
 // Short ways to the boxes that the program shows everywhere.
 void information(const QString& text, const QString& title = {});

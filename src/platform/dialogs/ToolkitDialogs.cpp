@@ -6,6 +6,8 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QWidget>
 
@@ -194,6 +196,13 @@ QString ToolkitDialogs::input(const InputRequest& request) {
   return show(new InputBox(request, dialogParent()), QString(), [](const InputBox& shown) {
     return shown.result() == QDialog::Accepted ? shown.text() : QString();
   });
+}
+
+bool ToolkitDialogs::printer(QPrinter& printer) {
+  auto* dialog = new QPrintDialog(&printer, dialogParent());
+  dialog->setWindowTitle(QStringLiteral("Imprimir"));
+  return show(dialog, false,
+              [](const QPrintDialog& shown) { return shown.result() == QDialog::Accepted; });
 }
 
 }  // namespace quartela

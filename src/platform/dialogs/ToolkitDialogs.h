@@ -14,6 +14,7 @@ class ToolkitDialogs : public DialogHost {
   QString saveFile(const FileRequest& request) override;
   QString pickFolder(const QString& title) override;
   QString input(const InputRequest& request) override;
+  bool printer(QPrinter& printer) override;
 };
 
 // What `box` answers when it is closed without a button: Cancel where it has it, else No, else Ok.

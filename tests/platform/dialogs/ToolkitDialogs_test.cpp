@@ -12,6 +12,7 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -374,6 +375,28 @@ class ToolkitDialogs_test : public QObject {
 
  private:
   quartela::DialogHost* before_ = nullptr;
+
+  void aPrinterIsChosenOrNot_data() {
+    QTest::addColumn<QString>("pressed");
+    QTest::addColumn<bool>("chosen");
+    QTest::newRow("chosen") << "Print" << true;
+    QTest::newRow("given up") << "Cancel" << false;
+  }
+
+  void aPrinterIsChosenOrNot() {
+    QFETCH(const QString, pressed);
+    QFETCH(const bool, chosen);
+    const QTemporaryDir folder;
+    QPrinter printer;
+    printer.setOutputFileName(folder.filePath("pages.pdf"));
+    Operator clerk([&pressed](QWidget* dialog) {
+      QCOMPARE(dialog->windowTitle(), QStringLiteral("Imprimir"));
+      press(dialog, pressed);
+    });
+    QCOMPARE(Dialogs::printer(printer), chosen);
+    QCOMPARE(clerk.worked, 1);
+    QCOMPARE(printer.outputFileName(), folder.filePath("pages.pdf"));
+  }
 };
 
 QUARTELA_TEST_MAIN(ToolkitDialogs_test)

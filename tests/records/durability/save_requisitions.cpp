@@ -25,6 +25,7 @@ class Yes : public DialogHost {
   QString saveFile(const FileRequest&) override { return {}; }
   QString pickFolder(const QString&) override { return {}; }
   QString input(const InputRequest&) override { return {}; }
+  bool printer(QPrinter&) override { return false; }
 };
 
 int saveUntilKilled(const QString& database, std::int32_t seq) {
