@@ -2,8 +2,10 @@
 
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
+#include "foundation/Leitura.h"
 #include "foundation/Status.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/values/Convert.h"
 
 namespace quartela {
 namespace {
@@ -31,6 +33,10 @@ void grava_linha(std::int16_t codigo, const Gravacao& gravacao) {
   gravacao.grava_campos();
   Tabela.update();
   Tabela.close();
+  if (inclusao && gravacao.numero != nullptr) {
+    Le_tabela(QStringLiteral("SELECT @@IDENTITY"),
+              [&] { *gravacao.numero = Convert::toI32(Tabela.field(0)); });
+  }
 }
 
 // The row begun is given up before the box, so that no lock is held while the operator reads it.

@@ -18,6 +18,7 @@ struct Gravacao {
   QString selecao;                     // the select of the row to alter
   std::function<void()> grava_campos;  // copies the properties into Tabela's current row
   bool pergunta_inclusao = true;       // notes are entered in a row, without a question each
+  std::int32_t* numero = nullptr;      // receives the number that the table gives a new row
 };
 
 // Asks, writes the row and tells the operator. True only when the row has been written; a failure

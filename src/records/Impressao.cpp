@@ -1,5 +1,7 @@
 #include "records/Impressao.h"
 
+#include "foundation/Banco.h"
+#include "foundation/Erros.h"
 #include "foundation/Ini.h"
 #include "platform/files/ProgramFolder.h"
 
@@ -21,6 +23,16 @@ void imprime(const PedidoImpressao& pedido) {
   if (const Imprime registrado = registrados().value(pedido.relatorio)) {
     registrado(pedido);
   }
+}
+
+bool imprime_requisicao(const QString& comando) {
+  bool entregue = false;
+  Sob_trava(QStringLiteral("Função imprimir"), [&] {
+    Sql_atual = comando;
+    imprime({.relatorio = Relatorio::Requisicao2, .comando = comando, .exibe = true, .campos = {}});
+    entregue = true;
+  });
+  return entregue;
 }
 
 bool Exibe_antes() {

@@ -31,6 +31,10 @@ void registra_impressao(Relatorio relatorio, Imprime imprime);
 // raises.
 void imprime(const PedidoImpressao& pedido);
 
+// Shows the requisition form over the one row of `comando`. False when that failed, which the
+// operator has been told with the label "Função imprimir".
+bool imprime_requisicao(const QString& comando);
+
 // Whether the settings (key "valor2" of section "Requisicao") let a report be shown before it is
 // printed; only "0" sends it to the printer at once.
 bool Exibe_antes();

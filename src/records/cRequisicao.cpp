@@ -23,13 +23,7 @@ bool cRequisicao::Save_req(std::int16_t codigo) {
 
 void cRequisicao::Grava_campos() const {
   Tabela.setField(u"SEQ", Seq);
-  Tabela.setField(u"DATA", Data);
-  Tabela.setField(u"ORGAO", Orgao);
-  Tabela.setField(u"TOMADOR", Tomador);
-  Tabela.setField(u"VALOR", Valor);
-  Tabela.setField(u"FINALIDADE", Finalidade);
-  Tabela.setField(u"JUSTIFICATIVA", Justificativa);
-  Tabela.setField(u"FICHA", Ficha);
+  Grava_colunas();
 }
 
 void cRequisicao::Del_req() {

@@ -2,31 +2,20 @@
 // "Requisicao" in memory, saves, deletes and loads it.
 //
 // One instance serves the whole program and outlives the screens. Its properties are not cleared
-// between processes: a screen sets all of them before Save_req, or loads them with Envia_dados.
+// between processes: a screen sets all of them before Save_req, or loads them with Envia_dados. Seq
+// is the process number: yearly counter times 100 plus the two-digit year. Secretaria is filled by
+// Envia_dados only.
 #pragma once
 
-#include <QString>
 #include <cstdint>
 
-#include "platform/values/DateTime.h"
-#include "platform/values/Money.h"
+#include "records/CamposRequisicao.h"
 
 namespace quartela {
 
-class cRequisicao {
+class cRequisicao : public CamposRequisicao {
  public:
   static cRequisicao& compartilhada();
-
-  std::int32_t Seq = 0;  // process number: yearly counter times 100 plus the two-digit year
-  DateTime Data;
-  std::int16_t Orgao = 0;       // key of the expense orderer, Executor.ORDEM
-  std::int16_t Secretaria = 0;  // Executor.IDORGAO; filled by Envia_dados only, never saved
-  std::int16_t Tomador = 0;
-  Money Valor;
-  std::int16_t Finalidade = 0;  // key of the advance type
-  QString Justificativa;
-  QString Ficha;
-  std::int16_t Encerrado = 0;  // a mark kept for the screens, not saved
 
   // Saves the row of Seq; `codigo` 1 adds it, any other value alters it. True when it was written.
   bool Save_req(std::int16_t codigo);

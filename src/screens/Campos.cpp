@@ -20,6 +20,7 @@
 namespace quartela {
 namespace {
 
+constexpr QRgb kTintaInativa = 0xFF55606D;
 const DateTime kPrimeiraData = DateTime::of(1997, 1, 1);
 const DateTime kUltimaData = DateTime::of(2100, 12, 31);
 
@@ -99,6 +100,20 @@ void Ignora_roda(QWidget& campo) {
     }
     return false;
   });
+}
+
+// Field by field, since the fields take their colours from the program, not from the part they
+// stand in.
+void Escurece_inativos(QWidget& parte) {
+  const QList<QWidget*> campos = parte.findChildren<QWidget*>();
+  for (QWidget* const campo : campos) {
+    QPalette cores = campo->palette();
+    for (const QPalette::ColorRole papel :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      cores.setColor(QPalette::Disabled, papel, QColor(kTintaInativa));
+    }
+    campo->setPalette(cores);
+  }
 }
 
 QString Nome_proprio(const QString& texto) {

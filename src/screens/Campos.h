@@ -23,6 +23,9 @@ void Enter_avanca(QLineEdit& campo);
 // The wheel scrolls the page; it changes no value, not even of a field with the focus.
 void Ignora_roda(QWidget& campo);
 
+// Makes the fields inside `parte` readable where they cannot be altered any more.
+void Escurece_inativos(QWidget& parte);
+
 // Each word with a capital at its head and small letters behind it.
 QString Nome_proprio(const QString& texto);
 

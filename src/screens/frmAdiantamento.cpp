@@ -1,6 +1,7 @@
 #include "screens/frmAdiantamento.h"
 
 #include <QEvent>
+#include <QTextCharFormat>
 
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
@@ -43,6 +44,14 @@ Value data_mostrada(const QString& texto) {
 
 Value data_ou_vazia(const DatePicker& data) {
   return data.isEmpty() ? Value() : Value(Format(data.value(), kData));
+}
+
+// The weekends' red would make an inactive calendar look active.
+void apaga_fins_de_semana(QCalendarWidget& calendario) {
+  QTextCharFormat apagado;
+  apagado.setForeground(calendario.palette().brush(QPalette::Disabled, QPalette::Text));
+  calendario.setWeekdayTextFormat(Qt::Saturday, apagado);
+  calendario.setWeekdayTextFormat(Qt::Sunday, apagado);
 }
 
 }  // namespace
@@ -118,6 +127,7 @@ void frmAdiantamento::prepara_novo() {
     campo->setValue(Value());
   }
   ui_->mskdev->setText(kZero);
+  apaga_fins_de_semana(*ui_->MonthView1);
 }
 
 // The box of the annulled empenho goes by the column of the payment order, so that it opens without

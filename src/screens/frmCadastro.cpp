@@ -1,11 +1,11 @@
 #include "screens/frmCadastro.h"
 
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMenu>
 
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
+#include "foundation/Escape.h"
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
@@ -15,7 +15,9 @@
 #include "records/Numeracao.h"
 #include "records/Principal.h"
 #include "records/cPrestContas.h"
+#include "screens/Campos.h"
 #include "screens/frmAdiantamento.h"
+#include "ui_QuadroRequisicao.h"
 #include "ui_frmCadastro.h"
 
 namespace quartela {
@@ -25,27 +27,11 @@ constexpr QRgb kVerdeClaro = 0xFFC8F0C8;
 constexpr QRgb kAmareloClaro = 0xFFFFFF80;
 constexpr QRgb kAzulValor = 0xFF0000FF;
 constexpr QRgb kVerdeEscuro = 0xFF006400;
-// Fields that cannot be altered any more are still read.
-constexpr QRgb kTintaInativa = 0xFF55606D;
 
 void pinta_botao(QPushButton& botao, QRgb cor) {
   QPalette cores = botao.palette();
   cores.setColor(QPalette::Button, QColor(cor));
   botao.setPalette(cores);
-}
-
-// Field by field, since the fields take their colours from the program, not from the part they
-// stand in.
-void escurece_inativos(QWidget& parte) {
-  const QList<QWidget*> campos = parte.findChildren<QWidget*>();
-  for (QWidget* const campo : campos) {
-    QPalette cores = campo->palette();
-    for (const QPalette::ColorRole papel :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-      cores.setColor(QPalette::Disabled, papel, QColor(kTintaInativa));
-    }
-    campo->setPalette(cores);
-  }
 }
 
 void pinta_texto(QLabel& rotulo, QRgb cor) {
@@ -82,12 +68,11 @@ frmCadastro::frmCadastro()
   prepara_tela();
   prepara_colunas();
   liga_janela();
-  liga_requisicao();
   liga_empenho();
   liga_notas();
   liga_digitacao();
   Form_Load();
-  requisicao_salva_ = Conteudo_digitado(*ui_->fracadastro);
+  ui_->fracadastro->marca_salvo();
   nota_salva_ = Conteudo_digitado(*ui_->fraNotas);
 }
 
@@ -99,10 +84,8 @@ frmCadastro::~frmCadastro() {
 void frmCadastro::prepara_tela() {
   Estilo::prepara_janela(*this);
   Estilo::destaca(*ui_->cmdAplicar);
-  for (QWidget* const parte :
-       {static_cast<QWidget*>(ui_->fracadastro), static_cast<QWidget*>(ui_->fraNotas)}) {
-    escurece_inativos(*parte);
-  }
+  ui_->fracadastro->prepara_numero(QStringLiteral("Processo"), QStringLiteral("####/##"));
+  Escurece_inativos(*ui_->fraNotas);
   pinta_botao(*ui_->Command1_4, kVerdeClaro);
   pinta_botao(*ui_->Command1_5, qRgb(255, 255, 255));
   pinta_botao(*ui_->cmdEncerrar, kAmareloClaro);
@@ -123,8 +106,6 @@ void frmCadastro::prepara_tela() {
   for (QPushButton* const botao : botoes) {
     botao->setAutoDefault(true);
   }
-  ui_->cmbficha->setTypingBlocked(true);
-  ui_->cmbficha->lineEdit()->setAccessibleName(ui_->cmbficha->accessibleName());
 }
 
 void frmCadastro::prepara_colunas() {
@@ -142,7 +123,7 @@ void frmCadastro::prepara_colunas() {
   coluna(notas, "SEQ", 70);
   coluna(notas, "DATA", 96);
   coluna(notas, " DOC.", 110);
-  coluna(notas, "IDENTIFICAÇÃO DO DOCUMENTO", 380);
+  coluna(notas, "IDENTIFICAÇÃO DO DOCUMENTO", 416);
   coluna(notas, "VALOR", 120, Qt::AlignRight);
   coluna(notas, "TOTAL", 120, Qt::AlignRight);
 }
@@ -157,32 +138,11 @@ void frmCadastro::liga_janela() {
   connect(ui_->cmdImprimir, &QPushButton::clicked, this,
           Evento(this, &frmCadastro::cmdImprimir_Click));
   connect(Command1[0], &QPushButton::clicked, this, Evento(this, &frmCadastro::Sair));
-}
-
-void frmCadastro::liga_requisicao() {
-  datas_.observa(*ui_->dtpdata);
-  for (ComboBox* const combo :
-       {ui_->cmbOrgao, ui_->cmbOrdenador, ui_->cmbResponsavel, ui_->cmbTipo, ui_->cmbficha}) {
-    Ignora_roda(*combo);
-  }
-  connect(ui_->cmbOrgao, &ComboBox::dropDown, this, [this] {
-    recarrega(*ui_->cmbOrgao, [this] {
-      Carrega_Controles(*ui_->cmbOrgao, QStringLiteral("Orgao"), QStringLiteral("ORGAO"),
-                        QStringLiteral("IDORGAO"), kTodos);
-    });
-  });
-  connect(ui_->cmbResponsavel, &ComboBox::dropDown, this, [this] {
-    recarrega(*ui_->cmbResponsavel, [this] {
-      Carrega_Controles(*ui_->cmbResponsavel,
-                        QStringLiteral("Select * from Tomador Where ATIVO = True ORDER BY NOME1;"),
-                        QStringLiteral("NOME1"), QStringLiteral("ID"), kComando);
-    });
-  });
-  connect(ui_->cmbficha, &ComboBox::dropDown, this, &frmCadastro::cmbficha_DropDown);
-  connect(ui_->cmbOrgao, &ComboBox::picked, this, &frmCadastro::cmbOrgao_Click);
-  connect(ui_->cmbOrdenador, &ComboBox::picked, this, &frmCadastro::cmbOrdenador_Click);
-  connect(ui_->cmbResponsavel, &ComboBox::picked, this, &frmCadastro::cmbResponsavel_Click);
-  connect(ui_->cmbTipo, &ComboBox::picked, this, &frmCadastro::cmbTipo_Click);
+  Ao_escapar(*this, Evento([this] {
+    if (!tem_digitacao() || Confirma_abandono()) {
+      Sair();
+    }
+  }));
 }
 
 void frmCadastro::liga_empenho() {
@@ -254,24 +214,16 @@ void frmCadastro::Form_Load() {
     ui_->cmdOk->setEnabled(true);
   }
   if (ModoAlteracao == 0) {
-    Novo_item(*ui_->mskprocesso, caminhos.number);
-    ui_->dtpdata->setToday();
+    Novo_item(*campos().mskprocesso, caminhos.number);
+    campos().dtpdata->setToday();
   } else {
     carrega_processo();
   }
 }
 
-// Inactive rows are listed too, so that an old process can show them.
 void frmCadastro::carrega_processo() {
-  const auto carrega = [](ComboBox* combo, const char* tabela, const char* exibida,
-                          const char* chave) {
-    Carrega_Controles(*combo, QLatin1String(tabela), QLatin1String(exibida), QLatin1String(chave),
-                      kTodos);
-  };
-  carrega(ui_->cmbOrgao, "Orgao", "ORGAO", "IDORGAO");
-  carrega(ui_->cmbResponsavel, "Tomador", "NOME1", "ID");
-  carrega(ui_->cmbTipo, "Tipos", "TIPO", "SEQUENCIA");
-  carrega(ui_->cmbOrdenador, "Executor", "NOME", "ORDEM");
+  ui_->fracadastro->oferece_inativos(true);
+  ui_->fracadastro->carrega_listas();
   Sob_trava(QStringLiteral("Função Carrega_dados"), [this] { Carrega_dados(); });
   lista_empenhos();
   ui_->cmdImprimir->setEnabled(true);
@@ -302,8 +254,12 @@ void frmCadastro::Sair() {
   close();
 }
 
+const Ui::QuadroRequisicao& frmCadastro::campos() const {
+  return ui_->fracadastro->campos();
+}
+
 QString frmCadastro::numero_processo() const {
-  return ui_->mskprocesso->clipText();
+  return campos().mskprocesso->clipText();
 }
 
 std::int32_t frmCadastro::processo() const {
@@ -312,7 +268,7 @@ std::int32_t frmCadastro::processo() const {
 }
 
 bool frmCadastro::tem_digitacao() const {
-  return Conteudo_digitado(*ui_->fracadastro) != requisicao_salva_ ||
+  return ui_->fracadastro->tem_digitacao() ||
          (ui_->fraNotas->isEnabled() && Conteudo_digitado(*ui_->fraNotas) != nota_salva_);
 }
 
@@ -328,14 +284,6 @@ bool frmCadastro::eventFilter(QObject* objeto, QEvent* evento) {
                 tecla->matches(QKeySequence::Cut);
   }
   return QWidget::eventFilter(objeto, evento);
-}
-
-void frmCadastro::keyPressEvent(QKeyEvent* evento) {
-  if (evento->key() != Qt::Key_Escape) {
-    QWidget::keyPressEvent(evento);
-  } else if (!tem_digitacao() || Confirma_abandono()) {
-    Sair();
-  }
 }
 
 }  // namespace quartela

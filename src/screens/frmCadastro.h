@@ -10,22 +10,20 @@
 #include <QString>
 #include <QWidget>
 #include <array>
-#include <functional>
 #include <memory>
 
 #include "platform/values/Money.h"
-#include "screens/Campos.h"
 
 class QPushButton;
 
 namespace quartela {
 
-class ComboBox;
 class frmAdiantamento;
 
 namespace Ui {
+class QuadroRequisicao;
 class frmCadastro;
-}
+}  // namespace Ui
 
 class frmCadastro : public QWidget {
   Q_OBJECT
@@ -36,14 +34,12 @@ class frmCadastro : public QWidget {
 
  protected:
   bool eventFilter(QObject* objeto, QEvent* evento) override;
-  void keyPressEvent(QKeyEvent* evento) override;
 
  private:
   // Opening (frmCadastro.cpp)
   void prepara_tela();
   void prepara_colunas();
   void liga_janela();
-  void liga_requisicao();
   void liga_empenho();
   void liga_notas();
   void liga_digitacao();
@@ -53,23 +49,16 @@ class frmCadastro : public QWidget {
   void chega_requisicao();
   void Sair();
   bool tem_digitacao() const;
+  // The fields of the requisition.
+  const Ui::QuadroRequisicao& campos() const;
   // The process number as digits alone, and as a number (0 while there is none).
   QString numero_processo() const;
   std::int32_t processo() const;
 
   // The requisition (frmCadastro_requisicao.cpp)
   void Carrega_dados();
-  void seleciona_listas();
-  void cmbOrgao_Click();
-  void cmbOrdenador_Click();
-  void cmbResponsavel_Click();
-  void cmbTipo_Click();
-  void cmbficha_DropDown();
-  // Fills `combo` anew and keeps what was chosen, where the new list still holds it.
-  void recarrega(ComboBox& combo, const std::function<void()>& carrega);
   void cmdAplicar_Click();
   bool aceita_outro_aberto();
-  void preenche_requisicao();
   void cmdOk_Click();
   void cmdImprimir_Click();
 
@@ -125,10 +114,8 @@ class frmCadastro : public QWidget {
   QString Tag;                     // the empenho last clicked, as shown
   bool atualiza_ao_sair_ = false;  // the main list has become stale
   bool altera_nota_ = false;       // "Gravar" alters the note of txtseq
-  DatasRecusadas datas_;
-  QString requisicao_salva_;  // the typed contents of each side when last loaded or saved
-  QString nota_salva_;
-  bool apagando_ = false;  // the history is being shortened, not typed
+  QString nota_salva_;             // the typed contents of the note when last loaded or saved
+  bool apagando_ = false;          // the history is being shortened, not typed
 };
 
 }  // namespace quartela

@@ -10,6 +10,7 @@
 #include "records/cAdiantamento.h"
 #include "screens/frmAdiantamento.h"
 #include "screens/frmCadastro.h"
+#include "ui_QuadroRequisicao.h"
 #include "ui_frmCadastro.h"
 
 namespace quartela {
@@ -88,8 +89,8 @@ void frmCadastro::mostra_empenho(bool altera) {
   if (janela == nullptr) {
     janela = new frmAdiantamento({.processo = numero_processo(),
                                   .chave = ui_->txtkey->text(),
-                                  .mskvalor = ui_->mskvalor,
-                                  .cmbTipo = ui_->cmbTipo,
+                                  .mskvalor = campos().mskvalor,
+                                  .cmbTipo = campos().cmbTipo,
                                   .lstEmpenho = ui_->lstEmpenho},
                                  this);
     janela->setAttribute(Qt::WA_DeleteOnClose);
@@ -169,7 +170,7 @@ bool frmCadastro::encerra() {
 void frmCadastro::preenche_encerramento() {
   cAdiantamento& adiantamento = cAdiantamento::compartilhada();
   const QString hoje = Format(Clock::today(), u"dd/MM/yyyy");
-  const Money sobra = ui_->mskvalor->value() - Convert::toMoney(ui_->lblGasto->text());
+  const Money sobra = campos().mskvalor->value() - Convert::toMoney(ui_->lblGasto->text());
   const bool tem_sobra = sobra > Money();
   adiantamento.Empenho = empenho_identificado();
   adiantamento.Fechamento = hoje;

@@ -10,7 +10,9 @@
 #include "platform/values/Format.h"
 #include "records/Gravacao.h"
 #include "records/cPrestContas.h"
+#include "screens/Campos.h"
 #include "screens/frmCadastro.h"
+#include "ui_QuadroRequisicao.h"
 #include "ui_frmCadastro.h"
 
 namespace quartela {
@@ -36,8 +38,8 @@ void frmCadastro::chega_prestacao() {
   ListView& lista = *ui_->lstEmpenho;
   Segue([&] {
     ui_->lblIdentificacao_27->setText(lista.text(lista.selectedRow()) + QStringLiteral(" - ") +
-                                      ui_->cmbResponsavel->text() + QStringLiteral(" - ") +
-                                      ui_->cmbTipo->text());
+                                      campos().cmbResponsavel->text() + QStringLiteral(" - ") +
+                                      campos().cmbTipo->text());
   });
   cPrestContas& notas = cPrestContas::compartilhada();
   Segue([&] { notas.processo = Convert::toI32(QString(Tag).remove(QLatin1Char('/'))); });
@@ -50,7 +52,7 @@ void frmCadastro::chega_prestacao() {
       botao->setEnabled(true);
     }
   }
-  Segue([&] { ui_->lblEmpenho->setText(Format(ui_->mskvalor->value(), kResumo)); });
+  Segue([&] { ui_->lblEmpenho->setText(Format(campos().mskvalor->value(), kResumo)); });
 }
 
 void frmCadastro::mostra_total(Money total) {
@@ -58,7 +60,7 @@ void frmCadastro::mostra_total(Money total) {
     mostra_gasto(Format(total, kResumo));
   } else {
     mostra_gasto(kZero);
-    ui_->lblNao_aplicado->setText(Format(ui_->mskvalor->value(), kResumo));
+    ui_->lblNao_aplicado->setText(Format(campos().mskvalor->value(), kResumo));
   }
 }
 
@@ -69,7 +71,7 @@ void frmCadastro::mostra_gasto(const QString& texto) {
   }
   ui_->lblGasto->setText(texto);
   const Money gasto = Convert::toMoney(texto);
-  const Money diferenca = ui_->mskvalor->value() - gasto;
+  const Money diferenca = campos().mskvalor->value() - gasto;
   ui_->lblNao_aplicado->setText(Format(diferenca, kResumo));
   QPalette cores = ui_->lblNao_aplicado->palette();
   cores.setColor(QPalette::WindowText, QColor(diferenca > Money() ? kAzulValor : kVermelhoValor));

@@ -13,6 +13,7 @@
 #include "platform/values/Format.h"
 #include "records/Impressao.h"
 #include "screens/frmCadastro.h"
+#include "ui_QuadroRequisicao.h"
 #include "ui_frmCadastro.h"
 
 namespace quartela {
@@ -48,8 +49,8 @@ void frmCadastro::imprime_prestacao() {
     const int linha = lista.selectedRow();
     Sql_atual = QStringLiteral("Select * from PrestContas Where PROCESSO = ") +
                 empenho_selecionado() + QStringLiteral(" Order by DATA, SEQ;");
-    const QString responsavel = ui_->cmbResponsavel->text();
-    const QString orgao = ui_->cmbOrgao->text();
+    const QString responsavel = campos().cmbResponsavel->text();
+    const QString orgao = campos().cmbOrgao->text();
     imprime({.relatorio = Relatorio::PrestContas,
              .comando = Sql_atual,
              .exibe = Exibe_antes(),
@@ -61,10 +62,10 @@ void frmCadastro::imprime_prestacao() {
                         {QStringLiteral("Field3"), lista.text(linha)},
                         {QStringLiteral("Field4"), lista.subItem(linha, kAbertura)},
                         {QStringLiteral("Field5"), lista.subItem(linha, kRetirada)},
-                        {QStringLiteral("Field46"), ui_->cmbOrdenador->text()},
+                        {QStringLiteral("Field46"), campos().cmbOrdenador->text()},
                         {QStringLiteral("Field40"), valor_positivo(ui_->lblNao_aplicado->text())},
                         {QStringLiteral("Field43"), Format(Clock::now(), u" dd/mm/yyyy h:mm")},
-                        {QStringLiteral("Field42"), ui_->txtcargo->text()},
+                        {QStringLiteral("Field42"), campos().txtcargo->text()},
                         {QStringLiteral("Field45"), hoje_por_extenso()}}});
     close();
   });
@@ -82,9 +83,9 @@ bool frmCadastro::imprime_guia() {
     imprime({.relatorio = Relatorio::Guia,
              .comando = {},
              .exibe = Exibe_antes(),
-             .campos = {{QStringLiteral("Field56"), ui_->cmbResponsavel->text()},
-                        {QStringLiteral("Field57"), ui_->cmbOrgao->text()},
-                        {QStringLiteral("Field58"), ui_->cmbTipo->text()},
+             .campos = {{QStringLiteral("Field56"), campos().cmbResponsavel->text()},
+                        {QStringLiteral("Field57"), campos().cmbOrgao->text()},
+                        {QStringLiteral("Field58"), campos().cmbTipo->text()},
                         {QStringLiteral("Field59"), vencimento},
                         {QStringLiteral("Field60"), lista.text(linha)},
                         {QStringLiteral("Field61"), lista.subItem(linha, kOP)},

@@ -29,9 +29,11 @@
 #include "platform/values/Convert.h"
 #include "records/Principal.h"
 #include "records/cRequisicao.h"
+#include "reports/Relatorios.h"
 #include "screens/frmAviso.h"
 #include "screens/frmCadastro.h"
 #include "screens/frmLocalizar.h"
+#include "screens/frmReqAvulso.h"
 #include "shell/ComandosRibbon.h"
 #include "shell/Imagens.h"
 #include "shell/ribbon/FaixaRibbon.h"
@@ -123,6 +125,7 @@ frmOficce::~frmOficce() {
 
 void frmOficce::Form_Load() {
   MontaRibbon();
+  registra_relatorios();
   registra_lista_principal(lista_, barra_);
   FiltroStatus = kFiltroInicial;
   Lista_principal(kFiltroInicial);
@@ -201,6 +204,7 @@ const frmOficce::Comandos& frmOficce::comandos() {
       {QStringLiteral("2"), [](frmOficce& janela) { janela.Exclui_processo(); }},
       {QStringLiteral("3"), [](frmOficce&) { mostra_frmAviso(); }},
       {QStringLiteral("4"), [](frmOficce&) { alterna<frmLocalizar>(); }},
+      {QStringLiteral("6"), [](frmOficce&) { alterna<frmReqAvulso>(); }},
       {QStringLiteral("9"), [](frmOficce&) { alterna<frmExecutor>(); }},
       {QStringLiteral("10"), [](frmOficce&) { alterna<frmTomador>(); }},
       {QStringLiteral("11"), [](frmOficce&) { alterna<frmTipos>(); }},

@@ -1,123 +1,224 @@
-// The whole road of one advance, typed through the real controls: requisition, empenho, notes,
-// closing with money left, reopening.
-#include "screens/frmAdiantamento.h"
-#include "tests/screens/ProcessDesk.h"
+// The whole road of one advance from the main window, with the keyboard alone and with the real
+// documents: requisition, empenho, notes, accountability, closing with money left, reopening.
+#include <QDir>
+
+#include "foundation/Banco.h"
+#include "foundation/Textos.h"
+#include "platform/controls/OpenForms.h"
+#include "records/Numeracao.h"
+#include "records/Principal.h"
+#include "shell/frmOficce.h"
+#include "tests/journeys/Previews.h"
+#include "tests/journeys/ProcessKeys.h"
+#include "tests/support/PdfTools.h"
 #include "tests/support/office/OfficeMain.h"
 
 namespace quartela {
+namespace {
 
-using test::ScriptedDialogs;
 namespace boxes = test::boxes;
+
+constexpr int kRowsOfAPage = 41;
+// The first process of the year: a number that also opens again.
+const QString kProcess = QStringLiteral("0001/14");
+const QString kRequisicao = QStringLiteral("Requisição de Adiantamento");
+const QString kPrestacao = QStringLiteral("Prestação de Contas de Adiantamento");
+const QString kGuia = QStringLiteral("Guia de Arrecadação");
+
+// The window of the process that the main window opened.
+class Screen : public test::RequisitionHands<frmCadastro> {
+ public:
+  void take() {
+    window_ = UmaJanela<frmCadastro>::aberta();
+    QVERIFY(window_ != nullptr);
+    QTRY_VERIFY(window_->isActiveWindow());
+  }
+};
+
+// Where the documents of this road stay, to be looked at.
+QString paper(const char* name) {
+  const QDir folder(QStringLiteral(QUARTELA_BINARY_DIR "/papers"));
+  folder.mkpath(QStringLiteral("."));
+  return folder.filePath(QLatin1String(name));
+}
+
+}  // namespace
 
 class AdvanceTest : public QObject {
   Q_OBJECT
 
  private slots:
   void travelsTheWholeRoad() {
-    // The process of this road stands alone in the main list.
-    desk_.office().run("DELETE FROM Requisicao");
+    addTown(office_);
+    Grava_contador(QStringLiteral("2014"), QStringLiteral("0"), office_.counter());
+    UmaJanela<frmOficce>::mostra();
+    toMainWindow();
+
     types();
+    printsWithoutNumber();
     commits();
     spends();
+    accounts();
     closes();
     reopens();
+
+    main()->close();
+    QCOMPARE(Conexao->state(), Connection::Closed);
   }
 
  private:
+  static frmOficce* main() { return UmaJanela<frmOficce>::aberta(); }
+
+  // What a desktop does when the window before has gone.
+  static void toMainWindow() {
+    main()->activateWindow();
+    QTRY_VERIFY(main()->isActiveWindow());
+  }
+
+  // Through the ribbon: from its tab down to its first command.
+  void includesProcess() {
+    test::press(Qt::Key_F10);
+    test::press(Qt::Key_Down);
+    test::press(Qt::Key_Return);
+    screen_.take();
+    QCOMPARE(screen_.text("mskprocesso"), kProcess);
+    QCOMPARE(screen_.text("dtpdata"), QString("21/11/2014"));
+  }
+
+  // Through the main list: to its first row, then Enter.
+  void opensProcess() {
+    toMainWindow();
+    test::tabTo("ListView1");
+    test::press(Qt::Key_Down);
+    QCOMPARE(Tag_principal, kProcess);
+    test::press(Qt::Key_Return);
+    screen_.take();
+  }
+
   void types() {
-    desk_.openNew();
-    desk_.fillRequisition();
-    dialogs_.expectBox(boxes::askInclusion(), Button::Yes);
-    dialogs_.expectBox(boxes::saved());
-    desk_.click("cmdAplicar");
-    desk_.click("cmdOk");
-    QVERIFY2(dialogs_.satisfied(), dialogs_.report());
-    QCOMPARE(desk_.mainList().count(), 1);
-    QCOMPARE(desk_.mainList().text(0), kProcess);
+    includesProcess();
+    keys_.typeRequisition("1500,5", "Refeições na viagem a São José");
+    keys_.include();
+    QCOMPARE(test::focusName(), QString("cmdOk"));
+    dialogs_.expectBox(test::askNumberAndDate(), Button::Yes);
+    test::mnemonic('I');
+    QVERIFY(!screen_.isOpen());
+    const QString pdf = paper("requisicao-com-numero.pdf");
+    test::savePreview(dialogs_, kRequisicao, pdf);
+    QCOMPARE(
+        test::firstOutOfOrder(test::textsOfPdf(pdf),
+                              {"REQUISIÇÃO DE ADIANTAMENTO", "Data da Solicitação.....: 21/11/2014",
+                               "Responsável pelo Recurso: Davi Souza",
+                               "1.500,50 (mil e quinhentos reais e cinquenta centavos)",
+                               "Refeições na viagem a São José", "128"}),
+        QString());
+  }
+
+  void printsWithoutNumber() {
+    opensProcess();
+    dialogs_.expectBox(test::askNumberAndDate(), Button::No);
+    test::mnemonic('I');
+    QVERIFY(!screen_.isOpen());
+    test::savePreview(dialogs_, kRequisicao, paper("requisicao-sem-numero.pdf"));
   }
 
   void commits() {
-    desk_.openProcess(kProcess);
-    desk_.click("cmdnovo");
-    auto* dialog = desk_.child<frmAdiantamento>("frmAdiantamento");
-    QTRY_VERIFY(dialog->isActiveWindow());
-    for (const auto& [name, typed] : {std::pair("mskempenho", "0050014"), std::pair("mskOP", "321"),
-                                      std::pair("dtpretirada", "21112014")}) {
-      auto* field = dialog->findChild<QLineEdit*>(QString::fromLatin1(name));
-      field->setFocus();
-      field->selectAll();
-      test::typeText(field, QString::fromLatin1(typed));
-    }
-    dialogs_.expectBox(boxes::askInclusion(), Button::Yes);
-    dialogs_.expectBox(boxes::saved());
-    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
-    QVERIFY2(dialogs_.satisfied(), dialogs_.report());
-    desk_.click("Command1_0");
-    QCOMPARE(desk_.mainList().subItem(0, 1), QString("00500/14"));
-    QCOMPARE(desk_.mainList().subItem(0, 9), QString("21/12/2014"));
+    opensProcess();
+    keys_.includeEmpenho("0050014", "321", "21112014");
+    QCOMPARE(screen_.list("lstEmpenho")->subItem(0, 3), QString("21/12/2014"));
+    keys_.leave();
+    QCOMPARE(main()->ListView1().subItem(0, 1), QString("00500/14"));
+    QCOMPARE(main()->ListView1().subItem(0, 9), QString("21/12/2014"));
   }
 
   void spends() {
-    desk_.openProcess(kProcess);
-    QVERIFY(!desk_.widget("fracadastro")->isEnabled());
-    desk_.click("cmdPrestacao");
-    note("21112014", "101", "posto central", "300,25");
-    note("24112014", "102", "hotel", "700");
-    QCOMPARE(desk_.text("lblGasto"), QString("1.000,25"));
-    QCOMPARE(desk_.text("lblNao_aplicado"), QString("500,25"));
+    opensProcess();
+    QVERIFY(!screen_.widget("fracadastro")->isEnabled());
+    keys_.goToNotes();
+    keys_.addNote("21112014", "1", "posto central", "25");
+    for (int n = 2; n <= kRowsOfAPage; ++n) {
+      keys_.addNote({}, QString::number(n), "posto central", "25");
+    }
+    keys_.addNote("24112014", "nf 42", "pousada são joão", "100,25");
+    keys_.addNote({}, "43", "hotel", "75");
+    QCOMPARE(screen_.list("lstNotas")->subItem(kRowsOfAPage + 1, 5), QString("1.200,25"));
+    QCOMPARE(screen_.text("lblGasto"), QString("1.200,25"));
+    QCOMPARE(screen_.text("lblNao_aplicado"), QString("300,25"));
   }
 
-  void note(const char* date, const char* document, const char* history, const char* amount) {
-    desk_.click("Command1_3");
-    desk_.type("txtdatanota", QString::fromLatin1(date));
-    desk_.type("txtordem", QString::fromLatin1(document));
-    desk_.type("txtrazao_social", QString::fromLatin1(history));
-    desk_.type("mskValor_nota", QString::fromLatin1(amount));
-    dialogs_.expectBox(boxes::saved());
-    desk_.click("Command1_2");
-    QVERIFY2(dialogs_.satisfied(), dialogs_.report());
+  void accounts() {
+    test::mnemonic('M');
+    QVERIFY(!screen_.isOpen());
+    const QString pdf = paper("prestacao.pdf");
+    test::savePreview(dialogs_, kPrestacao, pdf);
+    const QString left =
+        "Importância não Aplicada.: 300,25 (trezentos reais e vinte e cinco "
+        "centavos)";
+    QCOMPARE(test::firstOutOfOrder(
+                 test::textsOfPdf(pdf),
+                 {"Responsável....: Davi Souza", "Empenho n°.: 00500/14", "ADIANTAMENTO 1.500,50",
+                  "1 21/11/2014 1 POSTO CENTRAL 25,00 1.475,50",
+                  "41 21/11/2014 41 POSTO CENTRAL 25,00 475,50", left,
+                  "PRESTAÇÃO DE CONTAS DE ADIANTAMENTO", "ADIANTAMENTO 475,50",
+                  "42 24/11/2014 Nf 42 POUSADA SAO JOAO 100,25 375,25",
+                  "43 24/11/2014 43 HOTEL 75,00 300,25", left}),
+             QString());
   }
 
   void closes() {
-    dialogs_.expectBox(test::informedQuestion("Deseja Encerrar o Adiantamento agora?"),
-                       Button::Yes);
-    dialogs_.expectBox({.text = "Empenho Encerrado!!!",
-                        .title = "Finalizar Prestação de Contas",
-                        .icon = BoxIcon::Information});
-    desk_.click("cmdEncerrar");
-    QVERIFY2(dialogs_.satisfied(), dialogs_.report());
-    QCOMPARE(printed_.requests.size(), 1);
-    QVERIFY(printed_.requests[0].relatorio == Relatorio::Guia);
-    QCOMPARE(printed_.requests[0].campos.value("Field62"), QString("500,25"));
-    QCOMPARE(advance(), QString("2014-11-21 00:00:00|5002500|2014-11-21 00:00:00"));
+    opensProcess();
+    keys_.goToNotes();
+    keys_.close();
+    QVERIFY(!screen_.isOpen());
+    QCOMPARE(test::closingOf(office_), QString("2014-11-21 00:00:00|3002500|2014-11-21 00:00:00"));
+    const QString pdf = paper("guia.pdf");
+    test::savePreview(dialogs_, kGuia, pdf);
+    const QStringList copy{"DEVOLUÇÃO DE ADIANTAMENTO",
+                           "21/12/2014",
+                           "Davi Souza",
+                           "00500/14",
+                           "Saúde",
+                           "321",
+                           "300,25",
+                           "Miúdas",
+                           "300,25"};
+    QCOMPARE(test::firstOutOfOrder(test::textsOfPdf(pdf), copy + copy + copy), QString());
+    const QString code = test::barCodeOfPdf(pdf, 300);
+    QCOMPARE(code, QString("00091628400000300250000001200000000000000001"));
+    QCOMPARE(code, Monta_barras("000", "9", "30025", Value(DateTime::of(2014, 12, 21)), "12", "1"));
   }
 
+  // A process closed this year leaves the list of those begun and open.
   void reopens() {
-    desk_.openProcess(kProcess);
-    desk_.click("cmdPrestacao");
-    QCOMPARE(desk_.text("cmdEncerrar"), QString("Reativar Empenho"));
-    dialogs_.expectBox(test::informedQuestion("Deseja Reativar o Adiantamento agora?"),
-                       Button::Yes);
-    dialogs_.expectBox({.text = "Empenho Reativado!!!",
-                        .title = "Reativar Prestação de Contas",
-                        .icon = BoxIcon::Information});
-    desk_.click("cmdEncerrar");
-    QVERIFY2(dialogs_.satisfied(), dialogs_.report());
-    QCOMPARE(advance(), QString("|0|"));
-    QCOMPARE(desk_.office().ask("SELECT count(*) FROM PrestContas"), QString("2"));
+    toMainWindow();
+    QCOMPARE(main()->ListView1().count(), 0);
+    listsAll();
+    opensProcess();
+    keys_.goToNotes();
+    QCOMPARE(screen_.text("cmdEncerrar"), QString("Reativar Empenho"));
+    keys_.reopen();
+    QCOMPARE(screen_.text("cmdEncerrar"), QString("Encerrar Empenho"));
+    QCOMPARE(test::closingOf(office_), QString("|0|"));
+    QCOMPARE(office_.ask("SELECT count(*) FROM PrestContas"), QString::number(kRowsOfAPage + 2));
+    QCOMPARE(main()->ListView1().subItem(0, 10), QString());
+    keys_.leave();
   }
 
-  QString advance() {
-    return desk_.office().ask(
-        "SELECT coalesce(FECHAMENTO, '')||'|'||DEVOLUCAO||'|'||coalesce(DATADEV, '') FROM "
-        "Adiantamento");
+  // "Todos os Processos": the last but one command of the ribbon's first tab.
+  static void listsAll() {
+    test::press(Qt::Key_F10);
+    test::press(Qt::Key_Down);
+    test::press(Qt::Key_End);
+    test::press(Qt::Key_Left);
+    test::press(Qt::Key_Return);
+    QCOMPARE(int{FiltroStatus}, 0);
+    QCOMPARE(main()->ListView1().count(), 1);
   }
 
-  // The first process of the year, so that its number fits sixteen bits.
-  const QString kProcess = QStringLiteral("0001/14");
-  test::ProcessDesk desk_{1};
-  test::PrintedReports printed_;
-  ScriptedDialogs dialogs_;
+  test::Office office_;
+  test::ScriptedDialogs dialogs_;
+  Screen screen_;
+  test::ProcessKeys keys_{screen_, dialogs_};
 };
 
 }  // namespace quartela

@@ -16,7 +16,7 @@
 #include "records/Principal.h"
 #include "screens/frmLocalizar.h"
 #include "shell/frmOficce.h"
-#include "shell/ribbon/FaixaRibbon.h"
+#include "tests/journeys/Ribbon.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/office/Boxes.h"
 #include "tests/support/office/Office.h"
@@ -85,20 +85,7 @@ class MainWindowJourney : public QObject {
     QTRY_VERIFY_WITH_TIMEOUT(seen, 10'000);
   }
 
-  // Clicks the ribbon's button of that key where it stands.
-  static void press(const QString& key) {
-    FaixaRibbon& faixa = main()->Ribbon();
-    const ribbon::ElementTable& elements = faixa.elements();
-    for (int i = 0; i < elements.count(ribbon::Element::ButMouse); ++i) {
-      const ribbon::Piece& button = elements.at(ribbon::Element::ButMouse, i);
-      if (button.visible && button.tag == key) {
-        QTest::mouseClick(&faixa, Qt::LeftButton, {},
-                          (button.rect().center() / ribbon::kTwipsPerPixel).toPoint());
-        return;
-      }
-    }
-    QFAIL(qPrintable(QStringLiteral("no button ") + key));
-  }
+  static void press(const QString& key) { test::pressRibbon(*main(), key); }
 
   static void walkFilters(const test::Office& office) {
     const struct {

@@ -73,6 +73,16 @@ class frmCadastroRequisicaoTest : public QObject {
     QCOMPARE(desk_->text("mskprocesso"), "0328/14");
   }
 
+  void theTabKeyVisitsTheFieldsInOrder() {
+    desk_->openProcess();
+    desk_->widget("dtpdata")->setFocus();
+    QCOMPARE(test::tabRound(*desk_->window()),
+             QStringList({"dtpdata", "cmbOrgao", "cmbOrdenador", "cmbResponsavel", "cmbTipo",
+                          "cmbficha", "mskvalor", "txtjustificativa", "lstEmpenho", "cmdnovo",
+                          "cmdalterar", "cmdexcluir", "cmdImprimir", "cmdAplicar", "Command1_0",
+                          "qt_tabwidget_tabbar"}));
+  }
+
   void fillsTheListsOneAfterTheOther() {
     desk_->openNew();
     desk_->pick("cmbOrgao", "Saúde");
@@ -134,13 +144,7 @@ class frmCadastroRequisicaoTest : public QObject {
     QFETCH(QByteArray, field);
     desk_->openNew();
     desk_->fillRequisition();
-    QWidget* empty = desk_->widget(field.constData());
-    if (auto* combo = qobject_cast<ComboBox*>(empty)) {
-      combo->setText({});
-      combo->setCurrentIndex(-1);
-    } else {
-      QMetaObject::invokeMethod(empty, "clear");
-    }
+    desk_->empty(field.constData());
     ScriptedDialogs dialogs;
     dialogs.expectBox(test::warning("Todos os campos obrigatórios devem ser preenchidos!!"));
     desk_->click("cmdAplicar");

@@ -154,6 +154,7 @@ class frmOficceTest : public QObject {
     QTest::newRow("0") << "0" << "frmCadastro";
     QTest::newRow("1") << "1" << "frmCadastro";
     QTest::newRow("4") << "4" << "frmLocalizar";
+    QTest::newRow("6") << "6" << "frmReqAvulso";
     QTest::newRow("9") << "9" << "frmExecutor";
     QTest::newRow("10") << "10" << "frmTomador";
     QTest::newRow("11") << "11" << "frmTipos";

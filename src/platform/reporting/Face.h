@@ -16,13 +16,14 @@ namespace quartela::reporting {
 
 class Face {
  public:
-  // The face of the style, made at the first call and kept as long as the program. For the thread of
-  // the windows only.
+  // The face of the style, made at the first call and kept as long as the program. For the thread
+  // of the windows only.
   static const Face& of(const FontSpec& style);
 
   const QFont& font() const { return font_; }
-  double ascent() const { return ascent_; }
   double lineHeight() const { return lineHeight_; }
+  // From a line's top to the base that its letters stand on.
+  double base() const { return base_; }
   double width(QStringView text) const;
 
  private:
@@ -34,8 +35,8 @@ class Face {
 
   QFont font_;
   QFontMetricsF metrics_;
-  double ascent_ = 0;
   double lineHeight_ = 0;
+  double base_ = 0;
   std::array<float, kTable> advance_{};
 };
 

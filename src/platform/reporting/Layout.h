@@ -62,6 +62,7 @@ struct ElementLayout {
   bool wordWrap = false;
   bool canGrow = false;    // downward, to hold the whole text
   bool canShrink = false;  // to the lines that its text has, to nothing when it is empty
+  double smallest = 0;     // points; a text that the box cuts is set smaller down to it; 0: never
   QColor color = Qt::black;
   QColor backColor;  // invalid: none
 

@@ -66,8 +66,9 @@ class Node {
     if (value.isUndefined() && otherwise) {
       return *otherwise;
     }
-    const double number = value.toDouble(-1);
-    require(number >= least && number <= kLargestMeasure && number == std::floor(number), key,
+    const double number = value.toDouble();
+    const bool within = number >= least && number <= kLargestMeasure;
+    require(value.isDouble() && within && number == std::floor(number), key,
             QStringLiteral("um número inteiro de %1 a %2").arg(least).arg(kLargestMeasure));
     return static_cast<int>(number);
   }
@@ -173,11 +174,12 @@ ElementKind readElementKind(Node& node) {
                                    {"PageBreak", ElementKind::PageBreak}});
 }
 
-QRect readPlace(Node& node, ElementKind kind) {
+// An element may reach into the page's left margin, up to the paper's edge.
+QRect readPlace(Node& node, ElementKind kind, int margin) {
   // A page break is a height in its section and nothing else.
   const std::optional<int> unneeded =
       kind == ElementKind::PageBreak ? std::optional<int>(0) : std::nullopt;
-  const int left = node.measure(key("left"), unneeded);
+  const int left = node.measure(key("left"), unneeded, -margin);
   const int top = node.measure(key("top"), std::nullopt);
   const int width = node.measure(key("width"), unneeded);
   return {left, top, width, node.measure(key("height"), unneeded)};
@@ -195,6 +197,10 @@ void readTextLook(Node& node, ElementLayout& element) {
   element.wordWrap = node.boolean(key("wordWrap"), false);
   element.canGrow = node.boolean(key("canGrow"), false);
   element.canShrink = node.boolean(key("canShrink"), false);
+  element.smallest = node.size(key("smallest"), element.font.points);
+  if (element.smallest > element.font.points) {
+    fail(node.place(), QStringLiteral("\"smallest\" não pode ser maior que a letra"));
+  }
   element.color = node.color(key("color"), Qt::black);
   element.backColor = node.color(key("backColor"), {});
 }
@@ -234,13 +240,13 @@ QString resolvedImage(const QString& image, const QString& file) {
 }
 
 ElementLayout readElement(const QJsonValue& value, const QString& section, const FontSpec& font,
-                          const QString& file) {
+                          const ReportLayout& layout, const QString& file) {
   Node node(value, section);
   ElementLayout element;
   element.name = node.requiredText(key("name"));
   node.setPlace(section + QLatin1Char('/') + element.name);
   element.kind = readElementKind(node);
-  element.place = readPlace(node, element.kind);
+  element.place = readPlace(node, element.kind, layout.margins.left());
   element.visible = node.boolean(key("visible"), true);
   element.font = readFont(node, font);
   readTextLook(node, element);
@@ -298,7 +304,7 @@ SectionLayout readSection(const QJsonValue& value, const ReportLayout& layout,
   }
   const FontSpec font = readFont(node, layout.font);
   for (const QJsonValue& element : node.array(key("elements"))) {
-    section.elements.push_back(readElement(element, node.place(), font, file));
+    section.elements.push_back(readElement(element, node.place(), font, layout, file));
   }
   node.finish();
   return section;

@@ -13,14 +13,16 @@
 //                   "PageBreak",
 //           "name", "left", "top", "width", "height", "visible" (true), "text", "font": FONT,
 //           "align": "left" | "center" | "right", "verticalAlign": "top" | "middle" | "bottom",
-//           "wordWrap", "canGrow", "canShrink", "color": "#rrggbb", "backColor",
+//           "wordWrap", "canGrow", "canShrink", "smallest" (points), "color": "#rrggbb",
+//           "backColor",
 //           "column", "optional", "format", "shows": "text" | "pageNumber" | "pageTotal" | "title",
 //           "summary": "none" | "sum" | "count", "over": GROUP,
 //           "lineStyle": "solid" | "dash" | "dot", "lineWeight", "stretch", "image" } ] } ] }
 //   FONT: { "family", "size" (points), "bold", "italic", "underline" }, each optional; what is
 //   missing is the section's, then the report's.
 //
-// Measures are whole twips. A relative "image" is looked for beside the layout's file.
+// Measures are whole twips, none below 0 but for "left", which may reach into the left margin. A
+// relative "image" is looked for beside the layout's file.
 #pragma once
 
 #include <QByteArray>

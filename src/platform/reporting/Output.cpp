@@ -172,9 +172,11 @@ QList<int> pagesToPrint(const Document& document, const QPrinter& printer) {
 
 void printDocument(const Document& document, QPrinter& printer) {
   requirePages(document);
-  // A printer without a name says that it is valid; only the list tells.
-  if (printer.outputFormat() == QPrinter::NativeFormat &&
-      QPrinterInfo::availablePrinterNames().isEmpty()) {
+  // A printer without a name says that it is valid, or stands for a file that has no name either;
+  // only the list tells.
+  const bool toFile =
+      printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty();
+  if (!toFile && QPrinterInfo::availablePrinterNames().isEmpty()) {
     failPrinting(QStringLiteral("Nenhuma impressora está instalada neste computador."));
   }
   const QList<int> pages = pagesToPrint(document, printer);

@@ -92,7 +92,7 @@ class PagePainter {
     const bool middle = style.verticalAlign == VerticalAlignment::Middle || spare < 0;
     const double share =
         middle ? 0.5 : (style.verticalAlign == VerticalAlignment::Bottom ? 1.0 : 0.0);
-    return item.top + spare * share + style.face->ascent();
+    return item.top + spare * share + style.face->base();
   }
 
   void paintLine(const StoredItem& item, const ItemStyle& style, const QString& line, double base) {

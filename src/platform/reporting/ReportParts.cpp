@@ -1,5 +1,6 @@
 #include "platform/reporting/ReportParts.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/values/RuntimeError.h"
@@ -44,6 +45,23 @@ ItemStyle styleOf(const ElementLayout& element, const SectionLayout& section, Do
     style.picture = document.addPicture(element.image);
   }
   return style;
+}
+
+// Half a point at a time.
+std::vector<TextLook> smallerLooks(const ElementLayout& element, ItemStyle style,
+                                   Document& document) {
+  constexpr double kStep = 0.5;
+  std::vector<TextLook> looks;
+  if (style.kind != ItemKind::Text || element.smallest <= 0) {
+    return looks;
+  }
+  FontSpec font = element.font;
+  while (font.points > element.smallest) {
+    font.points = std::max(font.points - kStep, element.smallest);
+    style.face = &Face::of(font);
+    looks.push_back({style.face, document.addStyle(style)});
+  }
+  return looks;
 }
 
 ItemStyle bandOf(const SectionLayout& section) {
@@ -103,6 +121,7 @@ void addStyles(ReportParts& parts, Document& document) {
         state->kind = style.kind;
         state->face = style.face;
         state->style = document.addStyle(style);
+        state->smaller = smallerLooks(layout, style, document);
       }
     }
   }

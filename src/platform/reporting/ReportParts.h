@@ -11,6 +11,12 @@
 
 namespace quartela::reporting {
 
+// A type in which an element's text may stand, and its style in the run's document.
+struct TextLook {
+  const Face* face = nullptr;
+  std::uint16_t style = 0;
+};
+
 struct ElementState {
   explicit ElementState(const ElementLayout& layout) : element(layout) {}
 
@@ -23,6 +29,8 @@ struct ElementState {
   std::uint16_t style = 0;
   ItemKind kind = ItemKind::Text;
   const Face* face = nullptr;
+  // For texts that the box would cut, one smaller than the other.
+  std::vector<TextLook> smaller;
 };
 
 struct SectionState {

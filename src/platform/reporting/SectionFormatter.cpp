@@ -15,6 +15,7 @@ struct Piece {
   QRect before;
   int top = 0;
   int height = 0;
+  TextLook look;
   FittedText text;
   Block inner;  // of a sub-report
 
@@ -68,6 +69,7 @@ class Formatter {
     piece.before = state.element.place();
     piece.top = piece.before.y();
     piece.height = piece.before.height();
+    piece.look = {state.face, state.style};
     const ElementLayout& layout = state.element.layout();
     if (holdsText(layout.kind) && !isPutInLater(layout)) {
       fit(piece);
@@ -80,14 +82,18 @@ class Formatter {
 
   void fit(Piece& piece) {
     const ElementLayout& layout = piece.layout();
-    const Face& face = *piece.state->face;
-    const bool grow = layout.canGrow && section_.layout->canGrow;
-    piece.text = fitText(face, piece.state->element.text(),
-                         {.width = piece.before.width(),
-                          .height = piece.height,
-                          .wrap = layout.wordWrap,
-                          .grow = grow});
-    resize(piece, heightOfLines(face, piece.text.lines), grow);
+    const TextBox box{.width = piece.before.width(),
+                      .height = piece.height,
+                      .wrap = layout.wordWrap,
+                      .grow = layout.canGrow && section_.layout->canGrow};
+    const QString& text = piece.state->element.text();
+    piece.text = fitText(*piece.look.face, text, box);
+    const std::vector<TextLook>& smaller = piece.state->smaller;
+    for (auto look = smaller.begin(); piece.text.cut && look != smaller.end(); ++look) {
+      piece.look = *look;
+      piece.text = fitText(*look->face, text, box);
+    }
+    resize(piece, heightOfLines(*piece.look.face, piece.text.lines), box.grow);
   }
 
   void resize(Piece& piece, int wanted, bool canGrow) {
@@ -174,9 +180,9 @@ class Formatter {
 
   static BlockItem itemOf(Piece& piece) {
     BlockItem item;
-    item.style = piece.state->style;
+    item.style = piece.look.style;
     item.kind = piece.state->kind;
-    item.face = piece.state->face;
+    item.face = piece.look.face;
     item.place = QRect(piece.before.x(), piece.top, piece.before.width(), piece.height);
     item.text = std::move(piece.text);
     return item;

@@ -47,9 +47,11 @@ class Fitting {
   // One line of the text itself; false once the box is full.
   bool addParagraph(QStringView paragraph) {
     if (!box_.wrap) {
-      const bool fits = face_.width(paragraph) <= box_.width + kTolerance;
-      return fits ? addLine(paragraph, kLineEnd)
-                  : addLine(cut(face_, paragraph, box_.width), kLineEnd);
+      if (face_.width(paragraph) <= box_.width + kTolerance) {
+        return addLine(paragraph, kLineEnd);
+      }
+      cut_ = true;
+      return addLine(cut(face_, paragraph, box_.width), kLineEnd);
     }
     QChar before = kLineEnd;
     do {
@@ -67,7 +69,7 @@ class Fitting {
     return true;
   }
 
-  FittedText result() const { return {text_, lines_}; }
+  FittedText result() const { return {text_, lines_, cut_}; }
 
  private:
   // How much of the paragraph stands on its first line.
@@ -86,6 +88,7 @@ class Fitting {
 
   bool addLine(QStringView line, QChar before) {
     if (lines_ == limit_) {
+      cut_ = true;
       text_ =
           text_.first(lastStart_) + cut(face_, QStringView(text_).sliced(lastStart_), box_.width);
       return false;
@@ -105,6 +108,7 @@ class Fitting {
   QString text_;
   qsizetype lastStart_ = 0;
   int lines_ = 0;
+  bool cut_ = false;
 };
 
 }  // namespace
@@ -128,7 +132,7 @@ FittedText fitText(const Face& face, const QString& text, const TextBox& box) {
   const bool plain = std::none_of(text.begin(), text.end(),
                                   [](QChar letter) { return letter < QLatin1Char(' '); });
   if (plain && face.width(text) <= box.width + kTolerance) {
-    return {text, 1};
+    return {text, 1, false};
   }
   QString clean = text;
   clean.remove(QLatin1Char('\r')).remove(kSoftBreak).remove(kWordBreak);

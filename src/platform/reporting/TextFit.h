@@ -20,6 +20,7 @@ struct TextBox {
 struct FittedText {
   QString text;
   int lines = 0;
+  bool cut = false;  // the box did not hold all of it
 };
 
 constexpr QChar kLineEnd{u'\n'};

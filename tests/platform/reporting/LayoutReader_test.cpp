@@ -90,8 +90,8 @@ void LayoutReaderTest::readsATextElement() {
       R"({"kind": "Detail", "height": 300, "elements": [
           {"kind": "Label", "name": "a", "left": 1, "top": 2, "width": 3, "height": 4,
            "text": "Orgão", "visible": false, "align": "right", "verticalAlign": "bottom",
-           "wordWrap": true, "canGrow": true, "canShrink": true, "color": "#ff0000",
-           "backColor": "#00ff00"}]})");
+           "wordWrap": true, "canGrow": true, "canShrink": true, "smallest": 7.5,
+           "color": "#ff0000", "backColor": "#00ff00"}]})");
   const ElementLayout& element = layout.sections.at(0).elements.at(0);
   QCOMPARE(element.kind, ElementKind::Label);
   QCOMPARE(element.name, QStringLiteral("a"));
@@ -100,6 +100,7 @@ void LayoutReaderTest::readsATextElement() {
   QVERIFY(!element.visible && element.wordWrap && element.canGrow && element.canShrink);
   QCOMPARE(element.align, Alignment::Right);
   QCOMPARE(element.verticalAlign, VerticalAlignment::Bottom);
+  QCOMPARE(element.smallest, 7.5);
   QCOMPARE(element.color, QColor(Qt::red));
   QCOMPARE(element.backColor, QColor(Qt::green));
 }
@@ -131,13 +132,14 @@ void LayoutReaderTest::readsAFieldsSource() {
 void LayoutReaderTest::readsLinesAndImages() {
   const ReportLayout layout = layoutOf(
       R"({"kind": "Detail", "height": 300, "elements": [
-          {"kind": "Line", "name": "a", "left": 0, "top": 0, "width": 9, "height": 0,
+          {"kind": "Line", "name": "a", "left": -1000, "top": 0, "width": 9, "height": 0,
            "lineStyle": "dash", "lineWeight": 20, "stretch": true},
           {"kind": "Image", "name": "b", "left": 0, "top": 0, "width": 1, "height": 1,
            "image": "crest.svg"},
           {"kind": "Image", "name": "c", "left": 0, "top": 0, "width": 1, "height": 1,
            "image": ":/crest.svg"}]})");
   const std::vector<ElementLayout>& elements = layout.sections.at(0).elements;
+  QCOMPARE(elements.at(0).place, QRect(-1000, 0, 9, 0));
   QCOMPARE(elements.at(0).lineStyle, LineStyle::Dash);
   QCOMPARE(elements.at(0).lineWeight, 20);
   QVERIFY(elements.at(0).stretch);
@@ -194,6 +196,18 @@ void LayoutReaderTest::refuses_data() {
       << inDetail(
              R"({"kind": "Label", "name": "a", "left": 0, "top": 0, "width": -1, "height": 1})")
       << "\"width\"";
+  QTest::newRow("beyond the paper's edge")
+      << inDetail(
+             R"({"kind": "Label", "name": "a", "left": -781, "top": 0, "width": 1, "height": 1})")
+      << "\"left\"";
+  QTest::newRow("above its section")
+      << inDetail(
+             R"({"kind": "Label", "name": "a", "left": 0, "top": -1, "width": 1, "height": 1})")
+      << "\"top\"";
+  QTest::newRow("place that is a text")
+      << inDetail(
+             R"({"kind": "Label", "name": "a", "left": "0", "top": 0, "width": 1, "height": 1})")
+      << "\"left\"";
   QTest::newRow("half a twip")
       << inDetail(
              R"({"kind": "Label", "name": "a", "left": 0.5, "top": 0, "width": 1, "height": 1})")
@@ -212,6 +226,9 @@ void LayoutReaderTest::refuses_data() {
   QTest::newRow("flag that is a text")
       << inDetail(R"({"kind": "Label", "name": "a", "visible": "no", )" + place + "}")
       << "\"visible\"";
+  QTest::newRow("smallest type above the type")
+      << inDetail(R"({"kind": "Label", "name": "a", "smallest": 10.5, )" + place + "}")
+      << "\"smallest\"";
   QTest::newRow("image without picture")
       << inDetail(R"({"kind": "Image", "name": "a", )" + place + "}") << "\"image\"";
   QTest::newRow("sum without column")

@@ -86,6 +86,7 @@ class OutputTest : public QObject {
   void fullDiskIsSeen();
   void onlyFilesAreReplaced();
   void incompleteOrEmptyIs5();
+  void withoutAPrinterIs482_data();
   void withoutAPrinterIs482();
   void printsAllPages();
   void picksPages_data();
@@ -226,16 +227,24 @@ void OutputTest::incompleteOrEmptyIs5() {
   QCOMPARE(buffer.size(), 0);
 }
 
+void OutputTest::withoutAPrinterIs482_data() {
+  QTest::addColumn<QPrinter::OutputFormat>("format");
+  QTest::newRow("printer") << QPrinter::NativeFormat;
+  // What a program gets that asks for the default printer where there is none.
+  QTest::newRow("file without a name") << QPrinter::PdfFormat;
+}
+
 void OutputTest::withoutAPrinterIs482() {
   if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
     QSKIP("there is a printer here");
   }
   Built built(1);
   QPrinter printer(QPrinter::HighResolution);
-  printer.setOutputFormat(QPrinter::NativeFormat);
+  QFETCH(QPrinter::OutputFormat, format);
+  printer.setOutputFormat(format);
   QString description;
   QCOMPARE(errorOf([&] { printDocument(built.document(), printer); }, &description), 482);
-  QVERIFY2(description.contains(QStringLiteral("impressora")), qPrintable(description));
+  QVERIFY2(description.contains(QStringLiteral("Nenhuma impressora")), qPrintable(description));
 }
 
 void OutputTest::printsAllPages() {

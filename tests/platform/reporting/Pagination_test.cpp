@@ -75,6 +75,8 @@ class PaginationTest : public QObject {
   void shapesStretch();
   void grownRowMovesOn();
   void textThatMayNotGrowIsCut();
+  void textIsSetSmallerBeforeItIsCut_data();
+  void textIsSetSmallerBeforeItIsCut();
   void sectionHigherThanAPageIsParted();
   void partedSectionMayBeginBelowOthers();
   void headersWithoutPlaceAre5();
@@ -250,6 +252,39 @@ void PaginationTest::textThatMayNotGrowIsCut() {
   QVERIFY(fixed.text.endsWith(QChar(0x2026)));
   QCOMPARE(fixed.rect.height(), 460);
   QCOMPARE(topOf(pages[0], u"abaixo"), kTop + 460);
+}
+
+void PaginationTest::textIsSetSmallerBeforeItIsCut_data() {
+  QTest::addColumn<int>("letters");
+  QTest::addColumn<QString>("more");
+  QTest::addColumn<double>("points");
+  QTest::addColumn<bool>("cut");
+  // 2400 twips hold 20 letters of ten points, 21 of 9.5, 22 of nine, 23 of 8.5 and 8.6.
+  const QString smallest = QStringLiteral(R"(, "smallest": 8.6)");
+  QTest::newRow("fits") << 20 << smallest << 10.0 << false;
+  QTest::newRow("half a point less") << 21 << smallest << 9.5 << false;
+  QTest::newRow("a point less") << 22 << smallest << 9.0 << false;
+  QTest::newRow("the smallest") << 23 << smallest << 8.6 << false;
+  QTest::newRow("too much for the smallest") << 24 << smallest << 8.6 << true;
+  QTest::newRow("not wanted") << 21 << QString() << 10.0 << true;
+  // Two lines of ten points have room in the height, three of eight as well.
+  const QString wrapped = QStringLiteral(R"(, "wordWrap": true, "smallest": 6)");
+  QTest::newRow("wrapped") << 40 << wrapped << 10.0 << false;
+  QTest::newRow("wrapped, smaller") << 75 << wrapped << 8.0 << false;
+}
+
+void PaginationTest::textIsSetSmallerBeforeItIsCut() {
+  QFETCH(int, letters);
+  QFETCH(QString, more);
+  Built built(section("Detail", 1000, field("letras", 0, 545, more.toUtf8())), 2);
+  const QString text = QString(letters, QLatin1Char('x'));
+  built.report.setText(u"letras", text);
+  const Page page = built.pages().at(0);
+  const PlacedItem item = page.items(u"letras").at(1);
+  QFETCH(double, points);
+  QCOMPARE(item.font.pixelSize(), static_cast<int>(points * kTwipsPerPoint));
+  QTEST(item.text != text, "cut");
+  QCOMPARE(item.rect, QRect(1000, kTop + 1000, 2400, 545));
 }
 
 void PaginationTest::sectionHigherThanAPageIsParted() {

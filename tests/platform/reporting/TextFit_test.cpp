@@ -35,6 +35,7 @@ class TextFitTest : public QObject {
   void measuresAsTheToolkit_data();
   void measuresAsTheToolkit();
   void measuresAreTwips();
+  void familiesShareABaseLine();
   void fits_data();
   void fits();
   void growsWithItsText();
@@ -78,6 +79,23 @@ void TextFitTest::measuresAreTwips() {
   QVERIFY(&face != &Face::of({QStringLiteral("Liberation Mono"), 10, true, false, false}));
 }
 
+// Labels and values of one size stand beside each other in different families.
+void TextFitTest::familiesShareABaseLine() {
+  const auto fromBottom = [](const char* family) {
+    const Face& face = Face::of({QString::fromLatin1(family), 9, false, false, false});
+    return face.lineHeight() - face.base();
+  };
+  const double mono = fromBottom("Liberation Mono");
+  for (const char* const family : {"Liberation Sans", "Liberation Serif"}) {
+    QVERIFY2(std::abs(fromBottom(family) - mono) < 3, family);
+  }
+  // Letters that reach below the line have their place in it.
+  const Face& face = Face::of(kMono);
+  const double below =
+      QFontMetricsF(face.font()).tightBoundingRect(QStringLiteral("gpqyç")).bottom();
+  QVERIFY(below > 0 && below <= face.lineHeight() - face.base());
+}
+
 void TextFitTest::fits_data() {
   QTest::addColumn<QString>("text");
   QTest::addColumn<int>("columns");
@@ -117,6 +135,7 @@ void TextFitTest::fits() {
   QCOMPARE(result.text, fitted);
   const auto ends = std::count_if(fitted.begin(), fitted.end(), endsLine);
   QCOMPARE(result.lines, fitted.isEmpty() ? 0 : static_cast<int>(ends) + 1);
+  QCOMPARE(result.cut, fitted.endsWith(kCutSign));
 }
 
 void TextFitTest::growsWithItsText() {
