@@ -123,6 +123,7 @@ class Yes : public DialogHost {
   QString saveFile(const FileRequest&) override { return {}; }
   QString pickFolder(const QString&) override { return {}; }
   QString input(const InputRequest&) override { return {}; }
+  bool printer(QPrinter&) override { return false; }
 };
 
 const char* kInsert =

@@ -73,7 +73,8 @@ std::pair<double, double> medians(int runs, const Work& ours, const Work& peer) 
   return {middle(std::move(ourTimes)), middle(std::move(peerTimes))};
 }
 
-// What earlier measures gave back goes to the system first; otherwise it would be taken again unseen.
+// What earlier measures gave back goes to the system first; otherwise it would be taken again
+// unseen.
 double peakGrowth(const Work& work) {
   malloc_trim(0);
   resetHighWater();

@@ -41,6 +41,8 @@ void benchLike();
 void benchStart();
 void benchMainWindow();
 void benchMasterData();
+void benchProcess();
+void benchReports();
 
 // Child modes of the start benchmark: show the window, leave at its first painting.
 int showLoginOnce(int argc, char** argv);

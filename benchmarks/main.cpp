@@ -1,8 +1,36 @@
-// Prints a row for each measure: ours, the peer in the same run, the ratio, the target.
+// Prints a row for each measure: ours, the peer in the same run, the ratio, the target. The names
+// of groups as arguments measure those alone.
 #include <QApplication>
+#include <algorithm>
 #include <cstring>
 
 #include "benchmarks/Measure.h"
+
+namespace {
+
+struct Group {
+  const char* name;
+  void (*run)();
+};
+
+constexpr Group kGroups[] = {
+    {"recordset", quartela::bench::benchRecordset},
+    {"dialect", quartela::bench::benchDialect},
+    {"save", quartela::bench::benchSave},
+    {"like", quartela::bench::benchLike},
+    {"start", quartela::bench::benchStart},
+    {"main-window", quartela::bench::benchMainWindow},
+    {"tables", quartela::bench::benchMasterData},
+    {"process", quartela::bench::benchProcess},
+    {"reports", quartela::bench::benchReports},
+};
+
+bool isAsked(const Group& group, int argc, char** argv) {
+  return std::any_of(argv + 1, argv + argc,
+                     [&group](const char* name) { return std::strcmp(name, group.name) == 0; });
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   using namespace quartela::bench;
@@ -14,12 +42,10 @@ int main(int argc, char** argv) {
   }
   QApplication application(argc, argv);
   printHeader();
-  benchRecordset();
-  benchDialect();
-  benchSave();
-  benchLike();
-  benchStart();
-  benchMainWindow();
-  benchMasterData();
+  for (const Group& group : kGroups) {
+    if (argc == 1 || isAsked(group, argc, argv)) {
+      group.run();
+    }
+  }
   return 0;
 }

@@ -94,7 +94,6 @@ void aplica(QApplication& aplicacao) {
 }
 
 void prepara_janela(QWidget& janela) {
-  janela.setWindowIcon(marca());
   if (auto* const rotulo = janela.findChild<QLabel*>(QStringLiteral("lblMarca"))) {
     rotulo->setPixmap(marca().pixmap(rotulo->minimumSize(), janela.devicePixelRatioF()));
   }

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <utility>
 
 #include "platform/controls/ListModel.h"
 #include "platform/values/RuntimeError.h"
@@ -100,6 +101,7 @@ int ListView::columnCount() const {
 
 void ListView::clear() {
   model_->clear();
+  toShow_ = -1;
 }
 
 int ListView::count() const {
@@ -208,8 +210,19 @@ bool ListView::hasSelection() const {
 }
 
 void ListView::ensureVisible(int row) {
-  model_->publish();
-  scrollTo(model_->index(checked(row), 0));
+  toShow_ = checked(row);
+  if (!model_->hasWork()) {
+    showRow();
+  }
+}
+
+// The last row asked for, once: scrolling to each of many new rows would lay all of them out anew
+// each time.
+void ListView::showRow() {
+  const int row = std::exchange(toShow_, -1);
+  if (row >= 0 && row < count()) {
+    scrollTo(model_->index(row, 0));
+  }
 }
 
 int ListView::findSubItem(const QString& beginning, int from) const {
@@ -275,9 +288,13 @@ void ListView::later() {
 
 void ListView::flush() {
   flushPosted_ = false;
+  model_->publish();
+  const QPersistentModelIndex shown(model_->index(toShow_, 0));
   model_->flush();
   keepCurrentRow();
   showFirstColumnWhole();
+  toShow_ = shown.row();
+  showRow();
 }
 
 // The first column holds the row's key beside icon and tick: it is never cut short.

@@ -83,6 +83,7 @@ class ListView : public QTreeView {
   // Makes the row current, selected and visible, without itemClicked. -1 takes the selection away.
   void selectRow(int row);
   bool hasSelection() const;
+  // At the next flush when rows or an order wait for it.
   void ensureVisible(int row);
   // The first row, from `from` on, one of whose sub-items begins with `beginning`, without regard
   // to case; -1 for none and for an empty beginning.
@@ -128,6 +129,7 @@ class ListView : public QTreeView {
   void later();
   void keepCurrentRow();
   void showFirstColumnWhole();
+  void showRow();
   int checked(int row) const;
   int rowAt(const QPoint& position) const;
   bool pressCommandKey(int key);
@@ -136,6 +138,7 @@ class ListView : public QTreeView {
 
   ListModel* model_;
   bool flushPosted_ = false;
+  int toShow_ = -1;  // the row that the next flush scrolls to
   QString typed_;
   QElapsedTimer sinceTyped_;
 };
