@@ -1,12 +1,17 @@
 #include "foundation/Aplicacao.h"
 
+#include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLibraryInfo>
+#include <QLineEdit>
 #include <QLocale>
+#include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QShortcutEvent>
 #include <QStringList>
 
 #include "foundation/Estilo.h"
@@ -18,6 +23,33 @@ namespace {
 bool tem_valor(const QObject* objeto) {
   return qobject_cast<const QComboBox*>(objeto) || qobject_cast<const QAbstractSpinBox*>(objeto) ||
          (qobject_cast<const QAbstractSlider*>(objeto) && !qobject_cast<const QScrollBar*>(objeto));
+}
+
+bool gira_sem_foco(const QObject* objeto, const QEvent& evento) {
+  return evento.type() == QEvent::Wheel && tem_valor(objeto) &&
+         !static_cast<const QWidget*>(objeto)->hasFocus();
+}
+
+bool edita_texto(const QObject* objeto) {
+  return qobject_cast<const QLineEdit*>(objeto) || qobject_cast<const QPlainTextEdit*>(objeto);
+}
+
+// The key of a command that is not there, or not enabled, at the moment.
+bool tecla_sem_comando(const QObject* objeto, const QEvent& evento) {
+  if (evento.type() != QEvent::KeyPress || !edita_texto(objeto)) {
+    return false;
+  }
+  const auto& tecla = static_cast<const QKeyEvent&>(evento);
+  return tecla.modifiers() == Qt::AltModifier && !tecla.text().isEmpty() &&
+         tecla.text().at(0).isPrint();
+}
+
+// The button whose key was pressed; null when several have it.
+QAbstractButton* botao_da_tecla(QObject* objeto, const QEvent& evento) {
+  auto* const botao = qobject_cast<QAbstractButton*>(objeto);
+  const bool tecla = evento.type() == QEvent::Shortcut &&
+                     !static_cast<const QShortcutEvent&>(evento).isAmbiguous();
+  return tecla ? botao : nullptr;
 }
 
 }  // namespace
@@ -49,9 +81,12 @@ bool Aplicacao::notify(QObject* receiver, QEvent* event) {
 }
 
 bool Aplicacao::eventFilter(QObject* objeto, QEvent* evento) {
-  if (evento->type() == QEvent::Wheel && tem_valor(objeto) &&
-      !static_cast<QWidget*>(objeto)->hasFocus()) {
+  if (gira_sem_foco(objeto, *evento) || tecla_sem_comando(objeto, *evento)) {
     evento->ignore();
+    return true;
+  }
+  if (QAbstractButton* const botao = botao_da_tecla(objeto, *evento)) {
+    botao->click();
     return true;
   }
   return QApplication::eventFilter(objeto, evento);

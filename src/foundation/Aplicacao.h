@@ -22,7 +22,9 @@ class Aplicacao : public QApplication {
   bool notify(QObject* receiver, QEvent* event) override;
 
  protected:
-  // The wheel scrolls the page over a field that does not have the focus; it does not change it.
+  // The wheel scrolls the page over a field that does not have the focus; it does not change it. A
+  // button's key presses it at once, where the toolkit waits a tenth of a second in which what is
+  // typed on would be lost; the key of a button that is not enabled types no letter.
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:

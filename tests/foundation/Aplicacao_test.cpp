@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStyle>
@@ -194,6 +195,45 @@ class Aplicacao_test : public QObject {
     spin.setFocus();
     wheel(&spin);
     QCOMPARE(spin.value(), 49);
+  }
+
+  void aButtonsKeyPressesItAtOnce() {
+    QWidget window;
+    QVBoxLayout layout(&window);
+    QPushButton include("Incl&uir");
+    QLineEdit date;
+    layout.addWidget(&include);
+    layout.addWidget(&date);
+    connect(&include, &QPushButton::clicked, &date, [&date] { date.setFocus(); });
+    window.show();
+    window.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &window);
+    include.setFocus();
+    QTest::keyClick(&include, Qt::Key_U, Qt::AltModifier);
+    QTest::keyClicks(QApplication::focusWidget(), "21");
+    QCOMPARE(date.text(), QString("21"));
+  }
+
+  void theKeyOfADisabledButtonTypesNothing() {
+    QWidget window;
+    QVBoxLayout layout(&window);
+    QPushButton include("Incl&uir");
+    QLineEdit line;
+    QPlainTextEdit text;
+    for (QWidget* widget : QList<QWidget*>{&include, &line, &text}) {
+      layout.addWidget(widget);
+    }
+    include.setEnabled(false);
+    window.show();
+    window.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &window);
+    for (QWidget* field : QList<QWidget*>{&line, &text}) {
+      field->setFocus();
+      QTest::keyClick(field, Qt::Key_U, Qt::AltModifier);
+      QTest::keyClick(field, Qt::Key_X);
+    }
+    QCOMPARE(line.text(), QString("x"));
+    QCOMPARE(text.toPlainText(), QString("x"));
   }
 };
 

@@ -10,13 +10,14 @@
 
 namespace quartela::test {
 
-// What has the keyboard: an open list before the window behind it. Without a window at the keyboard
-// the test program ends.
+// What has the keyboard: an open list before the window behind it, the window itself where nothing
+// in it has. Without a window in front the test program ends.
 inline QWidget* keyTarget() {
   const QWidget* const popup = QApplication::activePopupWidget();
-  QWidget* const target = popup != nullptr && popup->focusWidget() != nullptr
-                              ? popup->focusWidget()
-                              : QApplication::focusWidget();
+  QWidget* target = popup != nullptr && popup->focusWidget() != nullptr
+                        ? popup->focusWidget()
+                        : QApplication::focusWidget();
+  target = target != nullptr ? target : QApplication::activeWindow();
   if (target == nullptr) {
     qFatal("nothing has the keyboard");
   }
@@ -30,6 +31,12 @@ inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     qFatal("no window has the keyboard");
   }
   QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
+}
+
+// What a desktop does when the window in front of it has gone.
+inline void comeForward(QWidget* window) {
+  window->activateWindow();
+  QTRY_VERIFY(window->isActiveWindow());
 }
 
 // The letter underlined in a label or on a button, with Alt.

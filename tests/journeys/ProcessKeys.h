@@ -108,7 +108,7 @@ class ProcessKeys {
     press(Qt::Key_Return);
     settle();
     if (!empenhoIsOpen()) {
-      QTRY_VERIFY(screen_.window()->isActiveWindow());
+      comeForward(screen_.window());
     }
   }
   void includeEmpenho(const QString& number, const QString& order, const QString& withdrawal) {
@@ -151,10 +151,7 @@ class ProcessKeys {
     for (const auto& [box, button] : boxes) {
       dialogs_.expectBox(box, button);
     }
-    auto* b = screen_.child<QAbstractButton>("cmdAplicar");
-    qWarning() << b->isEnabled() << b->isVisible() << b->shortcut() << b->text() << QApplication::activeWindow() << QGuiApplication::focusWindow() << QApplication::activePopupWidget() << QApplication::activeModalWidget() << keyTarget();
     mnemonic(letter);
-    qWarning() << keyTarget();
     settle();
   }
   void close() { answer('E', {{askClosing(), Button::Yes}, {closed(), Button::Ok}}); }

@@ -16,12 +16,16 @@ class Picture {
   // Errors: 53 there is no such file, 481 it is no picture.
   static Picture load(const QString& file);
 
-  // As large as the box allows without being distorted, in its middle.
+  // As large as the box, in twips, allows without being distorted, in its middle.
   void paint(QPainter& painter, const QRectF& box) const;
 
  private:
+  void paintDrawing(QPainter& painter, const QRectF& place) const;
+  const QImage& dots(const QSizeF& size) const;
+
   std::shared_ptr<QSvgRenderer> drawing_;
   QImage image_;
+  mutable QImage dots_;  // the drawing as it is printed
 };
 
 }  // namespace quartela::reporting

@@ -4,85 +4,16 @@ the find dialog, a deletion, the end. What it did is read from the database file
 
 Usage: delete_a_process.py BUILD SCREENSHOTS
 """
-import os
-import shutil
-import sqlite3
 import subprocess
 import sys
 import tempfile
 import time
 from pathlib import Path
 
-TIMEOUT = 60
 SOURCE = Path(__file__).resolve().parents[3]
-
-
-class Display:
-    """An Xvfb with a window manager; ends both when it is left."""
-
-    def __enter__(self):
-        read, write = os.pipe()
-        self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
-            pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        os.close(write)
-        with os.fdopen(read) as pipe:
-            self.name = ":" + pipe.readline().strip()
-        self.environment = dict(os.environ, DISPLAY=self.name, QT_QPA_PLATFORM="xcb")
-        self.manager = subprocess.Popen(["openbox"], env=self.environment, stderr=subprocess.DEVNULL)
-        return self
-
-    def __exit__(self, *_):
-        for process in (self.manager, self.server):
-            process.terminate()
-            process.wait()
-
-    def xdotool(self, *arguments):
-        return subprocess.run(["xdotool", *map(str, arguments)], env=self.environment,
-                              capture_output=True, text=True).stdout.strip()
-
-    def window(self, title):
-        """Waits for a visible window of that very title."""
-        return wait(lambda: self.xdotool("search", "--onlyvisible", "--name", f"^{title}$"),
-                    f"the window {title!r}").splitlines()[-1]
-
-    def no_window(self, title):
-        wait(lambda: not self.xdotool("search", "--onlyvisible", "--name", f"^{title}$"),
-             f"the window {title!r} to close")
-
-    def focus(self, title):
-        window = self.window(title)
-        self.xdotool("windowactivate", "--sync", window)
-        return window
-
-    def key(self, *keys):
-        self.xdotool("key", "--delay", 60, *keys)
-
-    def type(self, text):
-        self.xdotool("type", "--delay", 40, text)
-
-    def click(self, window, x, y):
-        self.xdotool("mousemove", "--window", window, x, y)
-        time.sleep(0.2)
-        self.xdotool("click", 1)
-
-
-def wait(condition, what):
-    end = time.monotonic() + TIMEOUT
-    while time.monotonic() < end:
-        result = condition()
-        if result:
-            return result
-        time.sleep(0.1)
-    raise SystemExit(f"never came: {what}")
-
-
-def rows(database, sql):
-    connection = sqlite3.connect(f"file:{database}?immutable=1", uri=True)
-    try:
-        return [row[0] for row in connection.execute(sql)]
-    finally:
-        connection.close()
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(SOURCE / "demonstration"))
+from desktop import TIMEOUT, Display, require_tools, rows  # noqa: E402
 
 
 def log_in(display):
@@ -112,8 +43,7 @@ def delete_first_row(display, main):
 
 def play(display, folder, pictures):
     def picture(name):
-        subprocess.run(["import", "-window", "root", str(pictures / f"{name}.png")],
-                       env=display.environment, check=False)
+        display.picture(pictures / f"{name}.png")
 
     database = folder / "Demonstracao.mdb"
     victim = rows(database, "SELECT max(SEQ) FROM Requisicao WHERE SEQ % 100 = "
@@ -161,7 +91,5 @@ def main():
 
 
 if __name__ == "__main__":
-    for tool in ("Xvfb", "xdotool", "openbox", "import"):
-        if shutil.which(tool) is None:
-            raise SystemExit(f"{tool} is not installed")
+    require_tools()
     main()

@@ -76,6 +76,7 @@ class OutputTest : public QObject {
   Q_OBJECT
 
  private slots:
+  void keepsADrawingOnce();
   void pdfHoldsTheTextsInReadingOrder();
   void pdfHasPaperAndTitle();
   void landscapePaperStaysSo();
@@ -303,6 +304,34 @@ void OutputTest::pagesBeyondTheEndAre5() {
   printer.setFromTo(2, 3);
   QCOMPARE(errorOf([&] { printDocument(built.document(), printer); }), 5);
   QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+// The crest of a hundred pages must not be written a hundred times.
+void OutputTest::keepsADrawingOnce() {
+  const QTemporaryDir folder;
+  QFile drawing(folder.filePath("square.svg"));
+  QVERIFY(drawing.open(QIODevice::WriteOnly));
+  drawing.write(R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 10 10">
+      <rect width="10" height="10"/></svg>)");
+  drawing.close();
+  const QByteArray head = R"({"kind": "PageHeader", "name": "Crest", "height": 900, "elements": [
+      {"kind": "Image", "name": "Image1", "left": 0, "top": 0, "width": 600, "height": 600,
+       "image": ")" + drawing.fileName().toUtf8() +
+                          "\"}]}," + QByteArray(kList).replace("PageHeader", "ReportHeader");
+  QList<qsizetype> pictures;
+  for (const int rowCount : {1, 100}) {
+    SampleRows rows(rowCount);
+    Report report(layoutOf(head));
+    report.setSource(rows.connection(), SampleRows::all());
+    report.build();
+    QBuffer buffer;
+    QVERIFY(buffer.open(QIODevice::WriteOnly));
+    writePdf(*report.document(), buffer);
+    QCOMPARE(report.document()->pageCount() > 1, rowCount > 1);
+    pictures << buffer.data().count("/Subtype /Image");
+  }
+  QVERIFY(pictures[0] > 0);
+  QCOMPARE(pictures[1], pictures[0]);
 }
 
 QUARTELA_TEST_MAIN(OutputTest)
