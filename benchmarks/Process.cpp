@@ -4,6 +4,8 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -11,6 +13,7 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTabWidget>
+#include <QTreeView>
 #include <memory>
 
 #include "benchmarks/Measure.h"
@@ -65,46 +68,51 @@ void openProcess() {
 }
 
 template <typename Control>
-std::size_t countOf(const QWidget& window) {
-  return static_cast<std::size_t>(window.findChildren<Control*>().size());
+int countOf(const QWidget& window) {
+  return static_cast<int>(window.findChildren<Control*>().size());
 }
 
 struct Counts {
-  std::size_t labels;
-  std::size_t lines;
-  std::size_t buttons;
-  std::size_t combos;
-  std::size_t texts;
-  std::size_t checks;
-  std::size_t lists;
+  int labels;
+  int lines;
+  int buttons;
+  int combos;
+  int texts;
+  int checks;
+  int lists;
+  int groups;
+  int tabs;
 };
 
 Counts controlsOf(const QWidget& window) {
   return {countOf<QLabel>(window),    countOf<QLineEdit>(window),      countOf<QPushButton>(window),
           countOf<QComboBox>(window), countOf<QPlainTextEdit>(window), countOf<QCheckBox>(window),
-          countOf<ListView>(window)};
+          countOf<ListView>(window),  countOf<QGroupBox>(window),      countOf<QTabWidget>(window)};
 }
 
 template <typename Control>
-void place(QWidget& parent, std::size_t count, int row) {
-  for (std::size_t i = 0; i < count; ++i) {
-    auto* const control = new Control(&parent);
-    control->setGeometry(10 + static_cast<int>(i % 12) * 80, row + static_cast<int>(i / 12) * 26,
-                         76, 24);
+void place(QGridLayout& grid, int count) {
+  constexpr int kColumns = 8;
+  const int row = grid.rowCount();
+  for (int i = 0; i < count; ++i) {
+    grid.addWidget(new Control, row + i / kColumns, i % kColumns);
   }
 }
 
-// As many controls of the toolkit as the screen has, with nothing in them.
+// As many controls of the toolkit as the screen has, laid out in a grid, with nothing in them.
 void openEmptyWindow(const Counts& counts, const QSize& size) {
   QWidget window;
+  QGridLayout grid(&window);
+  place<QLabel>(grid, counts.labels);
+  place<QLineEdit>(grid, counts.lines);
+  place<QPushButton>(grid, counts.buttons);
+  place<QComboBox>(grid, counts.combos);
+  place<QPlainTextEdit>(grid, counts.texts);
+  place<QCheckBox>(grid, counts.checks);
+  place<QTreeView>(grid, counts.lists);
+  place<QGroupBox>(grid, counts.groups);
+  place<QTabWidget>(grid, counts.tabs);
   window.resize(size);
-  place<QLabel>(window, counts.labels, 0);
-  place<QLineEdit>(window, counts.lines, 120);
-  place<QPushButton>(window, counts.buttons, 220);
-  place<QComboBox>(window, counts.combos, 300);
-  place<QPlainTextEdit>(window, counts.texts, 350);
-  place<QCheckBox>(window, counts.checks, 400);
-  place<QTableView>(window, counts.lists, 450);
   window.show();
   paint(window);
 }
@@ -118,7 +126,7 @@ void benchOpening() {
     size = window.size();
   }
   const auto [ours, peer] = medians(15, openProcess, [&] { openEmptyWindow(counts, size); });
-  print({.measure = QStringLiteral("frmCadastro on a process, painted | as many empty controls"),
+  print({.measure = QStringLiteral("frmCadastro on a process, painted | as many controls"),
          .ours = ours / 1000,
          .peer = peer / 1000,
          .target = 3,

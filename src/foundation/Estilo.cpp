@@ -29,9 +29,9 @@ constexpr QRgb kBorda = 0xFFC3CCD6;
 constexpr QRgb kBotaoPrincipal = 0xFF10406F;
 constexpr QRgb kApagado = 0xFF8592A0;
 
-// Yes stands before No and OK before Cancel on every desktop.
+// Yes stands before No and OK before Cancel on every desktop, and words stand alone on buttons.
 constexpr const char* kFolha = R"(
-QDialogButtonBox, QMessageBox { button-layout: 0; }
+QDialogButtonBox, QMessageBox { button-layout: 0; dialogbuttonbox-buttons-have-icons: 0; }
 QFrame#faixa { background: #16375b; border: none; }
 QFrame#faixa QLabel { color: #ffffff; background: transparent; }
 QFrame#faixa QLabel#lblFaixa { font-size: 12pt; font-weight: 600; }

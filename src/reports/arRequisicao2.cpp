@@ -58,8 +58,7 @@ void deixa_em_branco(SectionInstance& rodape) {
 }
 
 void formata_detalhe(SectionInstance& detalhe) {
-  const QString extenso = Extenso(detalhe.text(u"Field7"));
-  detalhe.setText(u"Field8", extenso.isEmpty() ? QString() : u'(' + extenso + u')');
+  detalhe.setText(u"Field8", u'(' + Extenso(detalhe.text(u"Field7")) + u')');
 }
 
 void formata_rodape(SectionInstance& rodape) {
