@@ -72,14 +72,21 @@ void avisa_exclusao() {
 
 }  // namespace
 
-bool Salva_registro(std::int16_t codigo, const Gravacao& gravacao) {
-  if (!confirma(codigo, gravacao) || !grava_ou_avisa(codigo, gravacao)) {
-    return false;
+Desfecho Tenta_salvar(std::int16_t codigo, const Gravacao& gravacao) {
+  if (!confirma(codigo, gravacao)) {
+    return Desfecho::Declinado;
+  }
+  if (!grava_ou_avisa(codigo, gravacao)) {
+    return Desfecho::Falhou;
   }
   Dialogs::information(codigo == kInclusao ? QStringLiteral("Registro Salvo!")
                                            : QStringLiteral("Registro Alterado!"),
                        kAviso);
-  return true;
+  return Desfecho::Gravado;
+}
+
+bool Salva_registro(std::int16_t codigo, const Gravacao& gravacao) {
+  return Tenta_salvar(codigo, gravacao) == Desfecho::Gravado;
 }
 
 bool Salva_calado(const Gravacao& gravacao) {

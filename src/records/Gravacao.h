@@ -21,8 +21,13 @@ struct Gravacao {
   std::int32_t* numero = nullptr;      // receives the number that the table gives a new row
 };
 
-// Asks, writes the row and tells the operator. True only when the row has been written; a failure
-// is told in the "Erro n°: " box.
+// What became of a save.
+enum class Desfecho { Gravado, Declinado, Falhou };
+
+// Asks, writes the row and tells the operator; a failure is told in the "Erro n°: " box.
+Desfecho Tenta_salvar(std::int16_t codigo, const Gravacao& gravacao);
+
+// The same; true only when the row has been written.
 bool Salva_registro(std::int16_t codigo, const Gravacao& gravacao);
 
 // Writes a new row with no question and no word; a failure is told.

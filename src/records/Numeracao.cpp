@@ -26,6 +26,15 @@ QString proximo_numero(const QString& ano, const QString& arquivo) {
   return Format(numero, u"0000") + Format(Convert::toI16(ano.right(2)), u"00");
 }
 
+// A number that outgrows the template of its field must not be cut down to another one.
+void mostra_numero(QLineEdit& destino, const QString& numero) {
+  destino.setText(numero);
+  if (destino.text().remove(QLatin1Char('/')) != numero) {
+    destino.clear();
+    throw RuntimeError(ErrorNumber::Overflow);
+  }
+}
+
 void propoe_numero(QLineEdit& destino, const QString& arquivo) {
   const QString ano = QString::number(Clock::now().year());
   const std::int32_t diferenca = Convert::toI32(ano) - le_ano(arquivo);
@@ -37,7 +46,7 @@ void propoe_numero(QLineEdit& destino, const QString& arquivo) {
   if (diferenca > 0) {
     Grava_contador(ano, QStringLiteral("0"), arquivo);
   }
-  destino.setText(proximo_numero(ano, arquivo));
+  mostra_numero(destino, proximo_numero(ano, arquivo));
 }
 
 }  // namespace

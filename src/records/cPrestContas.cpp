@@ -33,12 +33,13 @@ cPrestContas& cPrestContas::compartilhada() {
   return instancia;
 }
 
-void cPrestContas::Save_prest(std::int16_t codigo) {
-  Salva_registro(codigo, {.tabela = QStringLiteral("PrestContas"),
-                          .selecao = QStringLiteral("select * from PrestContas WHERE SEQ =") +
-                                     QString::number(Seq),
-                          .grava_campos = [this] { Grava_campos(); },
-                          .pergunta_inclusao = false});
+bool cPrestContas::Save_prest(std::int16_t codigo) {
+  const QString selecao =
+      QStringLiteral("select * from PrestContas WHERE SEQ =") + QString::number(Seq);
+  return Tenta_salvar(codigo, {.tabela = QStringLiteral("PrestContas"),
+                               .selecao = selecao,
+                               .grava_campos = [this] { Grava_campos(); },
+                               .pergunta_inclusao = false}) != Desfecho::Falhou;
 }
 
 void cPrestContas::Save_import() {

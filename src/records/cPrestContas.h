@@ -28,7 +28,8 @@ class cPrestContas {
   Money Despesas;
 
   // `codigo` 1 adds a note without a question, any other value asks and alters the row of Seq.
-  void Save_prest(std::int16_t codigo);
+  // False only when the row could not be written, which the operator has been told.
+  bool Save_prest(std::int16_t codigo);
 
   // Deletes the row of Seq. The caller has asked the operator already.
   void Del_prest();

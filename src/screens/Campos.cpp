@@ -1,6 +1,7 @@
 #include "screens/Campos.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QFocusEvent>
@@ -14,8 +15,10 @@
 #include <utility>
 
 #include "platform/controls/DatePicker.h"
+#include "platform/controls/MoneyEdit.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Convert.h"
+#include "platform/values/Format.h"
 
 namespace quartela {
 namespace {
@@ -49,7 +52,27 @@ bool eh_enter(const QEvent& evento) {
   return tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
 }
 
+// The same amount is the same content, with or without its thousands dots.
+QString conteudo_valor(const MoneyEdit& campo) {
+  try {
+    return Format(campo.value(), campo.format());
+  } catch (const RuntimeError&) {
+    return campo.text();
+  }
+}
+
+// A calendar's year is turned over, not typed in; it stands in a field within a field.
+bool esta_em_outro(const QWidget* campo) {
+  return qobject_cast<const QAbstractSpinBox*>(campo->parentWidget()) != nullptr;
+}
+
 QString conteudo(const QWidget* campo) {
+  if (esta_em_outro(campo)) {
+    return {};
+  }
+  if (const auto* valor = qobject_cast<const MoneyEdit*>(campo)) {
+    return conteudo_valor(*valor);
+  }
   if (const auto* linha = qobject_cast<const QLineEdit*>(campo)) {
     return linha->text();
   }
@@ -144,6 +167,25 @@ bool Confirma_abandono() {
               .icon = BoxIcon::Question,
               .buttons = {Button::Yes, Button::No},
               .defaultButton = Button::No}) == Button::Yes;
+}
+
+Fechamento::Fechamento(QWidget& janela, std::function<bool()> tem_digitacao)
+    : janela_(janela), tem_digitacao_(std::move(tem_digitacao)) {
+  janela.installEventFilter(this);
+}
+
+void Fechamento::fecha() {
+  decidido_ = true;
+  janela_.close();
+  decidido_ = false;
+}
+
+bool Fechamento::eventFilter(QObject* objeto, QEvent* evento) {
+  if (evento->type() == QEvent::Close && !decidido_ && !permite()) {
+    evento->ignore();
+    return true;
+  }
+  return QObject::eventFilter(objeto, evento);
 }
 
 void Mostra_data(DatePicker& data, const Value& valor) {

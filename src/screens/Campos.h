@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QList>
+#include <QObject>
 #include <QString>
+#include <functional>
 
 #include "platform/values/RuntimeError.h"
 #include "platform/values/Value.h"
@@ -35,6 +37,25 @@ QString Conteudo_digitado(const QWidget& tela);
 
 // Asks whether what was typed and not saved may be given up.
 bool Confirma_abandono();
+
+// Lets a window with something typed close only after asking, whether Escape, its frame, another
+// window or the end of the program closes it. The window's own commands close it by fecha(), which
+// asks nothing: their captions say what they do. Must not outlive the window.
+class Fechamento : public QObject {
+ public:
+  Fechamento(QWidget& janela, std::function<bool()> tem_digitacao);
+
+  // Whether nothing is typed, or the operator gives it up.
+  bool permite() const { return !tem_digitacao_() || Confirma_abandono(); }
+  void fecha();
+
+  bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+ private:
+  QWidget& janela_;
+  std::function<bool()> tem_digitacao_;
+  bool decidido_ = false;
+};
 
 // Dates are typed from 1997 to 2100; what the database holds is shown all the same.
 void Mostra_data(DatePicker& data, const Value& valor);

@@ -1,6 +1,7 @@
 #include "screens/frmAdiantamento.h"
 
 #include <QEvent>
+#include <QTabBar>
 #include <QTextCharFormat>
 
 #include "foundation/Erros.h"
@@ -64,6 +65,8 @@ frmAdiantamento::frmAdiantamento(const ContextoEmpenho& contexto, QWidget* paren
   ui_->setupUi(this);
   Estilo::prepara_janela(*this);
   Estilo::destaca(*ui_->Command1);
+  // There is one page: nothing to choose, and the first field has the focus.
+  ui_->SSTab1->tabBar()->setFocusPolicy(Qt::NoFocus);
   for (DatePicker* const campo : {ui_->dtpabertura, ui_->dtpretirada, ui_->dtpfechar_em,
                                   ui_->dtpfechamento, ui_->dtpdevolucao}) {
     datas_.observa(*campo);

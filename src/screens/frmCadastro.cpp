@@ -1,7 +1,9 @@
 #include "screens/frmCadastro.h"
 
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QTabBar>
 
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
@@ -61,7 +63,8 @@ void negrita(QWidget& campo) {
 // As a child of the main window it stays above it.
 frmCadastro::frmCadastro()
     : QWidget(OpenForms::find(QStringLiteral("frmOficce")), Qt::Window),
-      ui_(std::make_unique<Ui::frmCadastro>()) {
+      ui_(std::make_unique<Ui::frmCadastro>()),
+      fechamento_(*this, [this] { return tem_digitacao(); }) {
   ui_->setupUi(this);
   Command1 = {ui_->Command1_0, ui_->Command1_1, ui_->Command1_2, ui_->Command1_3,
               ui_->Command1_4, ui_->Command1_5, ui_->Command1_6};
@@ -85,6 +88,8 @@ void frmCadastro::prepara_tela() {
   Estilo::prepara_janela(*this);
   Estilo::destaca(*ui_->cmdAplicar);
   ui_->fracadastro->prepara_numero(QStringLiteral("Processo"), QStringLiteral("####/##"));
+  // One page is enabled at a time: there is nothing to choose, and the first field has the focus.
+  ui_->SSTab1->tabBar()->setFocusPolicy(Qt::NoFocus);
   Escurece_inativos(*ui_->fraNotas);
   pinta_botao(*ui_->Command1_4, kVerdeClaro);
   pinta_botao(*ui_->Command1_5, qRgb(255, 255, 255));
@@ -139,7 +144,7 @@ void frmCadastro::liga_janela() {
           Evento(this, &frmCadastro::cmdImprimir_Click));
   connect(Command1[0], &QPushButton::clicked, this, Evento(this, &frmCadastro::Sair));
   Ao_escapar(*this, Evento([this] {
-    if (!tem_digitacao() || Confirma_abandono()) {
+    if (fechamento_.permite()) {
       Sair();
     }
   }));
@@ -251,7 +256,12 @@ void frmCadastro::Sair() {
   if (atualiza_ao_sair_) {
     Lista_principal(FiltroStatus);
   }
-  close();
+  fechamento_.fecha();
+}
+
+void frmCadastro::closeEvent(QCloseEvent* evento) {
+  frmAdiantamento* const empenho = dialogo();
+  evento->setAccepted(empenho == nullptr || empenho->close());
 }
 
 const Ui::QuadroRequisicao& frmCadastro::campos() const {

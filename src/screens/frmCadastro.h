@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "platform/values/Money.h"
+#include "screens/Campos.h"
 
 class QPushButton;
 
@@ -33,6 +34,8 @@ class frmCadastro : public QWidget {
   ~frmCadastro() override;
 
  protected:
+  // The open dialog of the empenho closes first; kept open, it keeps this window open too.
+  void closeEvent(QCloseEvent* evento) override;
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:
@@ -116,6 +119,7 @@ class frmCadastro : public QWidget {
   bool altera_nota_ = false;       // "Gravar" alters the note of txtseq
   QString nota_salva_;             // the typed contents of the note when last loaded or saved
   bool apagando_ = false;          // the history is being shortened, not typed
+  Fechamento fechamento_;
 };
 
 }  // namespace quartela

@@ -147,7 +147,7 @@ void frmCadastro::cmdEncerrar_Click() {
   Lista_principal(FiltroStatus);
   lista_empenhos();
   if (imprimiu) {
-    close();
+    fechamento_.fecha();
   }
 }
 

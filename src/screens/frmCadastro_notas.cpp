@@ -131,6 +131,8 @@ void frmCadastro::Alterar() {
 }
 
 void frmCadastro::Gravar() {
+  // The document that is still being typed gets its capitals first.
+  Command1[2]->setFocus();
   Sob_trava(QStringLiteral("Função Save_reg"), [this] {
     if (nota_aceita()) {
       grava_nota();
@@ -168,6 +170,7 @@ bool frmCadastro::nota_aceita() {
   return true;
 }
 
+// A note that could not be written stays on the screen, to be saved again.
 void frmCadastro::grava_nota() {
   cPrestContas& nota = cPrestContas::compartilhada();
   nota.Seq = Convert::toI16(ui_->txtseq->text());
@@ -177,7 +180,9 @@ void frmCadastro::grava_nota() {
   nota.Historico = Remove_acentos(ui_->txtrazao_social->text().trimmed());
   nota.Despesas = ui_->mskValor_nota->value();
   nota.ID_Viagem = 0;
-  nota.Save_prest(altera_nota_ ? kAlteracao : kInclusao);
+  if (!nota.Save_prest(altera_nota_ ? kAlteracao : kInclusao)) {
+    return;
+  }
   relista_notas();
   limpa_nota();
   ui_->fraNotas->setEnabled(false);
@@ -227,6 +232,7 @@ void frmCadastro::mnExcluir_Click() {
   relista_notas();
   ui_->txtdatanota->clear();
   limpa_nota();
+  nota_salva_ = Conteudo_digitado(*ui_->fraNotas);
 }
 
 // Warns of a note that has been entered already.

@@ -37,6 +37,8 @@ void frmCadastro::Carrega_dados() {
 }
 
 void frmCadastro::cmdAplicar_Click() {
+  // A date that is still being typed is taken or refused first.
+  ui_->cmdAplicar->setFocus();
   if (!ui_->fracadastro->completo() || !aceita_outro_aberto()) {
     return;
   }
@@ -78,13 +80,13 @@ bool frmCadastro::aceita_outro_aberto() {
 
 void frmCadastro::cmdOk_Click() {
   Lista_principal(FiltroStatus);
-  close();
+  fechamento_.fecha();
 }
 
 void frmCadastro::cmdImprimir_Click() {
   if (imprime_requisicao(QStringLiteral("Select * from Sel_Print_req WHERE Requisicao.SEQ = ") +
                          numero_processo())) {
-    close();
+    fechamento_.fecha();
   }
 }
 

@@ -67,7 +67,7 @@ void frmCadastro::imprime_prestacao() {
                         {QStringLiteral("Field43"), Format(Clock::now(), u" dd/mm/yyyy h:mm")},
                         {QStringLiteral("Field42"), campos().txtcargo->text()},
                         {QStringLiteral("Field45"), hoje_por_extenso()}}});
-    close();
+    fechamento_.fecha();
   });
 }
 

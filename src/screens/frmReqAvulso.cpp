@@ -14,7 +14,9 @@
 namespace quartela {
 
 frmReqAvulso::frmReqAvulso(QWidget* parent)
-    : QWidget(parent), ui_(std::make_unique<Ui::frmReqAvulso>()) {
+    : QWidget(parent),
+      ui_(std::make_unique<Ui::frmReqAvulso>()),
+      fechamento_(*this, [this] { return ui_->fracadastro->tem_digitacao(); }) {
   ui_->setupUi(this);
   Estilo::prepara_janela(*this);
   Estilo::destaca(*ui_->cmdAplicar);
@@ -23,13 +25,9 @@ frmReqAvulso::frmReqAvulso(QWidget* parent)
           Evento(this, &frmReqAvulso::cmdAplicar_Click));
   connect(ui_->cmdImprimir, &QPushButton::clicked, this,
           Evento(this, &frmReqAvulso::cmdImprimir_Click));
-  connect(ui_->cmdOk, &QPushButton::clicked, this, &QWidget::close);
-  connect(ui_->Command1_0, &QPushButton::clicked, this, &QWidget::close);
-  Ao_escapar(*this, [this] {
-    if (!ui_->fracadastro->tem_digitacao() || Confirma_abandono()) {
-      close();
-    }
-  });
+  connect(ui_->cmdOk, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
+  connect(ui_->Command1_0, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
+  Ao_escapar(*this, [this] { close(); });
   Form_Load();
 }
 
@@ -44,6 +42,8 @@ void frmReqAvulso::Form_Load() {
 
 // The mode is the one in which the process screen was opened last.
 void frmReqAvulso::cmdAplicar_Click() {
+  // A date that is still being typed is taken or refused first.
+  ui_->cmdAplicar->setFocus();
   QuadroRequisicao& quadro = *ui_->fracadastro;
   if (!quadro.completo()) {
     return;
@@ -69,7 +69,7 @@ void frmReqAvulso::cmdImprimir_Click() {
   if (imprime_requisicao(
           QStringLiteral("Select * from Sel_Print_reqavulso WHERE ReqAvulso.SEQ = ") +
           ui_->fracadastro->campos().mskprocesso->text())) {
-    close();
+    fechamento_.fecha();
   }
 }
 

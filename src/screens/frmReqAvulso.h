@@ -5,6 +5,8 @@
 #include <QWidget>
 #include <memory>
 
+#include "screens/Campos.h"
+
 namespace quartela {
 
 namespace Ui {
@@ -24,6 +26,7 @@ class frmReqAvulso : public QWidget {
   void cmdImprimir_Click();
 
   std::unique_ptr<Ui::frmReqAvulso> ui_;
+  Fechamento fechamento_;
 };
 
 }  // namespace quartela

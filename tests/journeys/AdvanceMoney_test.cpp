@@ -12,9 +12,6 @@ namespace {
 
 namespace boxes = test::boxes;
 
-const QString kPrestacao = QStringLiteral("Prestação de Contas de Adiantamento");
-const QString kGuia = QStringLiteral("Guia de Arrecadação");
-
 }  // namespace
 
 class AdvanceMoneyTest : public QObject {
@@ -76,7 +73,7 @@ class AdvanceMoneyTest : public QObject {
       staysWithTheClosedEmpenho();
     } else {
       const QString pdf = road_->file("guia.pdf");
-      test::savePreview(road_->dialogs, kGuia, pdf);
+      test::savePreview(road_->dialogs, test::kGuia, pdf);
       QCOMPARE(test::barCodeOfPdf(pdf, 300), code);
     }
   }
@@ -91,14 +88,14 @@ class AdvanceMoneyTest : public QObject {
     const QString paper = "ADIANTAMENTO 1.000,00 Importância não Aplicada.: 1.000,00 (mil reais)";
     QVERIFY(accountability().contains(paper));
 
-    road_->desk.openProcess();
+    road_->openProcess();
     road_->keys.openEmpenho();
     test::tabTo("dtpfechamento");
     test::typeHere("20112014");
     QCOMPARE(road_->keys.empenhoText("mskdev"), QString("1.000,00"));
     test::tabTo("dtpdevolucao");
     test::typeHere("19112014");
-    confirmAlteration();
+    road_->keys.alterEmpenho();
     QCOMPARE(test::closingOf(road_->desk.office()),
              QString("2014-11-20 00:00:00|10000000|2014-11-19 00:00:00"));
     QVERIFY(test::previews().isEmpty());
@@ -106,7 +103,7 @@ class AdvanceMoneyTest : public QObject {
     road_->keys.openEmpenho();
     test::tabTo("dtpfechamento");
     test::press(Qt::Key_Delete, Qt::ControlModifier);
-    confirmAlteration();
+    road_->keys.alterEmpenho();
     QCOMPARE(test::closingOf(road_->desk.office()), QString("|0|"));
   }
 
@@ -151,13 +148,8 @@ class AdvanceMoneyTest : public QObject {
   QString accountability() {
     test::mnemonic('M');
     const QString pdf = road_->file("prestacao.pdf");
-    test::savePreview(road_->dialogs, kPrestacao, pdf);
+    test::savePreview(road_->dialogs, test::kPrestacao, pdf);
     return test::textsOfPdf(pdf);
-  }
-  void confirmAlteration() {
-    road_->keys.confirmEmpenho(
-        {{boxes::askAlteration(), Button::Yes}, {boxes::altered(), Button::Ok}});
-    QVERIFY(!road_->keys.empenhoIsOpen());
   }
   void staysWithTheClosedEmpenho() {
     QVERIFY(test::previews().isEmpty());

@@ -8,8 +8,6 @@ namespace {
 
 namespace boxes = test::boxes;
 
-const QString kPrestacao = QStringLiteral("Prestação de Contas de Adiantamento");
-
 }  // namespace
 
 class AdvanceRefusalsTest : public QObject {
@@ -20,7 +18,7 @@ class AdvanceRefusalsTest : public QObject {
   void cleanup() { road_.reset(); }
 
   void aNewRequisition() {
-    road_->desk.openNew();
+    road_->openNew();
     road_->keys.typeRequisition("1500,5", "Refeições em São José");
     refuse('A', boxes::askInclusion());
     road_->keys.include();
@@ -30,7 +28,7 @@ class AdvanceRefusalsTest : public QObject {
 
   // The warning goes by the places in the lists, and there process 12 is of another person.
   void aSecondAdvanceOfAPerson() {
-    road_->desk.openNew();
+    road_->openNew();
     road_->keys.typeRequisition("80", "Curso", {.name = "Fábio Dias", .purpose = "Viagem"});
     refuse('A', test::openAdvance(), Button::Cancel);
     const QString before = road_->shown();
@@ -43,7 +41,7 @@ class AdvanceRefusalsTest : public QObject {
   }
 
   void anAlteredRequisition() {
-    road_->desk.openProcess();
+    road_->openProcess();
     test::tabTo("mskvalor");
     test::typeHere("2000");
     refuse('A', boxes::askAlteration());
@@ -54,7 +52,7 @@ class AdvanceRefusalsTest : public QObject {
 
   // The dialog goes with its answer; the process screen is ready for it to come again.
   void aNewEmpenho() {
-    road_->desk.openProcess();
+    road_->openProcess();
     road_->keys.openNewEmpenho();
     const QString before = road_->shown();
     const QString stored = road_->stored();
@@ -70,7 +68,7 @@ class AdvanceRefusalsTest : public QObject {
 
   void anAlteredEmpenho() {
     road_->desk.addEmpenho();
-    road_->desk.openProcess();
+    road_->openProcess();
     road_->keys.openEmpenho();
     const QString before = road_->shown();
     const QString stored = road_->stored();
@@ -86,18 +84,16 @@ class AdvanceRefusalsTest : public QObject {
   void theExclusionOfAnEmpenho() {
     road_->desk.addEmpenho();
     road_->desk.addNote("2014-11-05", "17", "POSTO", 300);
-    road_->desk.openProcess();
-    test::tabTo("lstEmpenho");
-    test::press(Qt::Key_Down);
+    road_->openProcess();
+    road_->keys.pickEmpenho();
     refuse('X', boxes::question("Confirma exclusão do Adiantamento: 00500/14 e seus "
                                 "relacionamentos."));
   }
 
   // A refused alteration ends the entry as a saved one does, and the list shows the stored note.
   void anAlteredNote() {
-    withANote();
-    test::tabTo("lstNotas");
-    test::press(Qt::Key_Down);
+    road_->openWithANote();
+    road_->keys.pickNote();
     test::mnemonic('T');
     QCOMPARE(road_->desk.text("mskValor_nota"), QString("300,00"));
     const QString stored = road_->stored();
@@ -112,9 +108,8 @@ class AdvanceRefusalsTest : public QObject {
   }
 
   void theExclusionOfANote() {
-    withANote();
-    test::tabTo("lstNotas");
-    test::press(Qt::Key_Down);
+    road_->openWithANote();
+    road_->keys.pickNote();
     const QString before = road_->shown();
     const QString stored = road_->stored();
     road_->dialogs.expectBox(boxes::question("Confirma exclusão deste item? - 0001"), Button::No);
@@ -125,7 +120,7 @@ class AdvanceRefusalsTest : public QObject {
   }
 
   void theClosingAndTheReopening() {
-    withANote();
+    road_->openWithANote();
     refuse('E', test::askClosing());
     QVERIFY(test::previews().isEmpty());
     road_->desk.office().run("UPDATE PrestContas SET DESPESAS = 10000000");
@@ -136,15 +131,13 @@ class AdvanceRefusalsTest : public QObject {
   }
 
   void theNamesOfFiles() {
-    withANote();
+    road_->openWithANote();
     const QString stored = road_->stored();
-    road_->dialogs.expectSaveFile(
-        {.title = "Salvar...", .filter = "TXT Files(*.txt)|*.txt|", .folder = {}, .fileName = {}},
-        {});
+    road_->dialogs.expectSaveFile(test::exportRequest(), {});
     refuseBox('X');
     test::mnemonic('M');
-    test::awaitPreview(kPrestacao);
-    road_->dialogs.expectSaveFile(test::pdfRequest(kPrestacao), {});
+    test::awaitPreview(test::kPrestacao);
+    road_->dialogs.expectSaveFile(test::pdfRequest(test::kPrestacao), {});
     test::press(Qt::Key_S, Qt::ControlModifier);
     QVERIFY2(road_->dialogs.satisfied(), road_->dialogs.report());
     QCOMPARE(test::previews().size(), 1);
@@ -157,11 +150,11 @@ class AdvanceRefusalsTest : public QObject {
 
   // Escape asks before anything typed is lost.
   void theLeavingOfWhatWasTyped() {
-    road_->desk.openNew();
+    road_->openNew();
     road_->keys.typeRequisition("80", "Curso");
     abandons(Button::No);
     abandons(Button::Yes);
-    withANote();
+    road_->openWithANote();
     road_->keys.typeNote("05112014", "18", "hotel", "70");
     abandons(Button::No);
     road_->dialogs.expectBox(boxes::saved());
@@ -196,11 +189,6 @@ class AdvanceRefusalsTest : public QObject {
     if (answer == Button::No) {
       QCOMPARE(road_->shown(), before);
     }
-  }
-  void withANote() {
-    road_->desk.addEmpenho();
-    road_->desk.addNote("2014-11-05", "17", "POSTO", 300);
-    road_->openNotes();
   }
   QString requisition() {
     return road_->ask(

@@ -12,9 +12,6 @@ namespace {
 
 namespace boxes = test::boxes;
 
-const QString kPrestacao = QStringLiteral("Prestação de Contas de Adiantamento");
-const QString kRequisicao = QStringLiteral("Requisição de Adiantamento");
-
 }  // namespace
 
 class AdvanceTroublesTest : public QObject {
@@ -30,7 +27,7 @@ class AdvanceTroublesTest : public QObject {
         "INSERT INTO Requisicao(SEQ, DATA, ORGAO, TOMADOR, VALOR, FINALIDADE, JUSTIFICATIVA, FICHA)"
         " VALUES (114, '2014-10-01 00:00:00', 1, 1, 5, 1, 'Outra', '1');"
         "INSERT INTO Adiantamento(EMPENHO, PROCESSO, OP) VALUES (60014, 114, 5)");
-    road_->desk.openProcess();
+    road_->openProcess();
     road_->keys.openNewEmpenho();
     const QString before = road_->shown();
     const QString stored = road_->stored();
@@ -47,7 +44,7 @@ class AdvanceTroublesTest : public QObject {
 
   // Another workstation saved the number that this one was offered.
   void aProcessNumberThatIsTaken() {
-    road_->desk.openNew();
+    road_->openNew();
     road_->keys.typeRequisition("80", "Curso");
     road_->desk.office().run(
         "INSERT INTO Requisicao(SEQ, DATA, ORGAO, TOMADOR, VALOR, FINALIDADE, JUSTIFICATIVA, FICHA)"
@@ -57,8 +54,33 @@ class AdvanceTroublesTest : public QObject {
                     {boxes::saveFailure(ErrorNumber::DuplicateKey, test::kAnything), Button::Ok}});
   }
 
+  // The list still shows the row. What comes up is the process loaded before, whole and under its
+  // own number.
+  void aDeletedRequisitionIsNotOpened() {
+    road_->desk.addEmpenho();
+    road_->desk.office().run(
+        "INSERT INTO Requisicao(SEQ, DATA, ORGAO, TOMADOR, VALOR, FINALIDADE, JUSTIFICATIVA, FICHA)"
+        " VALUES (114, '2014-10-01 00:00:00', 1, 3, 50000, 1, 'Outra', '1')");
+    road_->openProcess();
+    const QString before = road_->shown();
+    road_->keys.leave();
+    road_->openProcess("0001/14");
+    QCOMPARE(road_->desk.text("mskvalor"), QString("5,00"));
+    const int row = road_->desk.mainList().selectedRow();
+    road_->keys.leave();
+    road_->openProcess();
+    road_->keys.leave();
+    road_->desk.office().run("DELETE FROM Requisicao WHERE SEQ = 114");
+    road_->desk.mainList().selectRow(row);
+    Tag_principal = road_->desk.mainList().text(row);
+    QCOMPARE(Tag_principal, QString("0001/14"));
+    road_->desk.show();
+    QCOMPARE(road_->desk.text("mskprocesso"), QString("0012/14"));
+    QCOMPARE(road_->shown(), before);
+  }
+
   void aDeletedRequisitionIsNotAltered() {
-    road_->desk.openProcess();
+    road_->openProcess();
     test::tabTo("mskvalor");
     test::typeHere("2000");
     road_->desk.office().run("DELETE FROM Requisicao");
@@ -67,7 +89,7 @@ class AdvanceTroublesTest : public QObject {
   }
 
   void aDeletedRequisitionGetsNoEmpenho() {
-    road_->desk.openProcess();
+    road_->openProcess();
     road_->keys.openNewEmpenho();
     road_->desk.office().run("DELETE FROM Requisicao");
     const QString before = road_->shown();
@@ -83,7 +105,7 @@ class AdvanceTroublesTest : public QObject {
 
   // The note stays in its fields; the page, come to anew, shows that the stored ones are gone.
   void aDeletedRequisitionTakesNoNotes() {
-    withANote();
+    road_->openWithANote();
     road_->keys.typeNote("05112014", "18", "hotel", "70");
     road_->desk.office().run("DELETE FROM Requisicao");
     changesNothing('G',
@@ -98,7 +120,7 @@ class AdvanceTroublesTest : public QObject {
   }
 
   void aDeletedRequisitionIsNotClosed() {
-    withANote();
+    road_->openWithANote();
     road_->desk.office().run("DELETE FROM Requisicao");
     road_->keys.answer(
         'E', {{test::askClosing(), Button::Yes},
@@ -118,12 +140,12 @@ class AdvanceTroublesTest : public QObject {
   }
   void aDeletedRequisitionPrintsItsHeadingsAlone() {
     QFETCH(bool, withNumber);
-    road_->desk.openProcess();
+    road_->openProcess();
     road_->desk.office().run("DELETE FROM Requisicao");
     road_->dialogs.expectBox(test::askNumberAndDate(), withNumber ? Button::Yes : Button::No);
     test::mnemonic('I');
     const QString pdf = road_->file("requisicao.pdf");
-    test::savePreview(road_->dialogs, kRequisicao, pdf);
+    test::savePreview(road_->dialogs, test::kRequisicao, pdf);
     const QString page = test::textsOfPdf(pdf);
     QVERIFY2(page.contains("REQUISIÇÃO DE ADIANTAMENTO"), qPrintable(page));
     QVERIFY2(!page.contains("Davi Souza"), qPrintable(page));
@@ -138,7 +160,7 @@ class AdvanceTroublesTest : public QObject {
   void aFolderThatTakesNoExport() {
     QFETCH(bool, exists);
     QFETCH(int, number);
-    withANote();
+    road_->openWithANote();
     const QTemporaryDir folder;
     const QString path = folder.filePath(exists ? "notas.txt" : "falta/notas.txt");
     {
@@ -147,9 +169,7 @@ class AdvanceTroublesTest : public QObject {
         QSKIP("this user may write everywhere");
       }
       QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner));
-      road_->dialogs.expectSaveFile(
-          {.title = "Salvar...", .filter = "TXT Files(*.txt)|*.txt|", .folder = {}, .fileName = {}},
-          path);
+      road_->dialogs.expectSaveFile(test::exportRequest(), path);
       const QString before = road_->shown();
       road_->keys.answer(
           'X', {{test::stopped(QString("Erro ao exportar registro! Erro n.º %1").arg(number)),
@@ -159,9 +179,7 @@ class AdvanceTroublesTest : public QObject {
     QVERIFY(!QFileInfo::exists(path));
     // The next folder takes it.
     const QString good = road_->file("notas.txt");
-    road_->dialogs.expectSaveFile(
-        {.title = "Salvar...", .filter = "TXT Files(*.txt)|*.txt|", .folder = {}, .fileName = {}},
-        good);
+    road_->dialogs.expectSaveFile(test::exportRequest(), good);
     road_->keys.answer('X', {{boxes::told("Exportado com sucesso!!"), Button::Ok}});
     QFile file(good);
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -170,17 +188,17 @@ class AdvanceTroublesTest : public QObject {
 
   // The preview stays, so that the document can go elsewhere.
   void aFolderThatTakesNoDocument() {
-    withANote();
+    road_->openWithANote();
     test::mnemonic('M');
-    test::awaitPreview(kPrestacao);
+    test::awaitPreview(test::kPrestacao);
     const QString path = road_->file("falta/prestacao.pdf");
-    road_->dialogs.expectSaveFile(test::pdfRequest(kPrestacao), path);
+    road_->dialogs.expectSaveFile(test::pdfRequest(test::kPrestacao), path);
     road_->dialogs.expectBox(
         boxes::internalError(ErrorNumber::PathNotFound, "Função imprimir", path));
     test::press(Qt::Key_S, Qt::ControlModifier);
     QVERIFY2(road_->dialogs.satisfied(), road_->dialogs.report());
     const QString good = road_->file("prestacao.pdf");
-    test::savePreview(road_->dialogs, kPrestacao, good);
+    test::savePreview(road_->dialogs, test::kPrestacao, good);
     QVERIFY(test::textsOfPdf(good).contains("17 POSTO 300,00 700,00"));
   }
 
@@ -191,11 +209,6 @@ class AdvanceTroublesTest : public QObject {
     road_->keys.answer(letter, boxes);
     QCOMPARE(road_->shown(), before);
     QCOMPARE(road_->stored(), stored);
-  }
-  void withANote() {
-    road_->desk.addEmpenho();
-    road_->desk.addNote("2014-11-05", "17", "POSTO", 300);
-    road_->openNotes();
   }
 
   std::unique_ptr<test::ProcessRoad> road_;

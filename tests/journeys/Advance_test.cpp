@@ -21,9 +21,6 @@ namespace boxes = test::boxes;
 constexpr int kRowsOfAPage = 41;
 // The first process of the year: a number that also opens again.
 const QString kProcess = QStringLiteral("0001/14");
-const QString kRequisicao = QStringLiteral("Requisição de Adiantamento");
-const QString kPrestacao = QStringLiteral("Prestação de Contas de Adiantamento");
-const QString kGuia = QStringLiteral("Guia de Arrecadação");
 
 // The window of the process that the main window opened.
 class Screen : public test::RequisitionHands<frmCadastro> {
@@ -73,6 +70,7 @@ class AdvanceTest : public QObject {
     test::comeForward(main());
 
     types();
+    keeps();
     printsWithoutNumber();
     commits();
     spends();
@@ -116,14 +114,28 @@ class AdvanceTest : public QObject {
     test::mnemonic('I');
     QVERIFY(!screen_.isOpen());
     const QString pdf = paper("requisicao-com-numero.pdf");
-    test::savePreview(dialogs_, kRequisicao, pdf);
-    QCOMPARE(
-        test::firstOutOfOrder(test::textsOfPdf(pdf),
-                              {"REQUISIÇÃO DE ADIANTAMENTO", "Data da Solicitação.....: 21/11/2014",
-                               "Responsável pelo Recurso: Davi Souza",
-                               "1.500,50 (mil e quinhentos reais e cinquenta centavos)",
-                               "Refeições na viagem a São José", "128"}),
-        QString());
+    test::savePreview(dialogs_, test::kRequisicao, pdf);
+    QCOMPARE(test::firstOutOfOrder(
+                 test::textsOfPdf(pdf),
+                 {"REQUISIÇÃO DE ADIANTAMENTO", "Data da Solicitação.....: 21/11/2014",
+                  "Responsável pelo Recurso: Davi Souza",
+                  "1.500,50 (mil e quinhentos reais e cinquenta centavos)",
+                  "Refeições na viagem a São José", "128", "novembro", "000114 0001 14"}),
+             QString());
+  }
+
+  // The exclusion that Delete asks for, declined.
+  void keeps() {
+    test::comeForward(main());
+    test::tabTo("ListView1");
+    test::press(Qt::Key_Down);
+    dialogs_.expectBox(boxes::question("Confirma exclusão do Cadastro: 0001/14 e seus "
+                                       "relacionamentos."),
+                       Button::No);
+    test::press(Qt::Key_Delete);
+    QVERIFY2(dialogs_.satisfied(), dialogs_.report());
+    QCOMPARE(main()->ListView1().count(), 1);
+    QCOMPARE(office_.ask("SELECT count(*) FROM Requisicao"), QString("1"));
   }
 
   void printsWithoutNumber() {
@@ -131,7 +143,11 @@ class AdvanceTest : public QObject {
     dialogs_.expectBox(test::askNumberAndDate(), Button::No);
     test::mnemonic('I');
     QVERIFY(!screen_.isOpen());
-    test::savePreview(dialogs_, kRequisicao, paper("requisicao-sem-numero.pdf"));
+    const QString pdf = paper("requisicao-sem-numero.pdf");
+    test::savePreview(dialogs_, test::kRequisicao, pdf);
+    const QString page = test::textsOfPdf(pdf);
+    QVERIFY2(page.contains("000114 Nº DO PROCESSO: _________/____"), qPrintable(page));
+    QVERIFY2(!page.contains("novembro"), qPrintable(page));
   }
 
   void commits() {
@@ -162,7 +178,7 @@ class AdvanceTest : public QObject {
     test::mnemonic('M');
     QVERIFY(!screen_.isOpen());
     const QString pdf = paper("prestacao.pdf");
-    test::savePreview(dialogs_, kPrestacao, pdf);
+    test::savePreview(dialogs_, test::kPrestacao, pdf);
     const QString left =
         "Importância não Aplicada.: 300,25 (trezentos reais e vinte e cinco "
         "centavos)";
@@ -184,7 +200,7 @@ class AdvanceTest : public QObject {
     QVERIFY(!screen_.isOpen());
     QCOMPARE(test::closingOf(office_), QString("2014-11-21 00:00:00|3002500|2014-11-21 00:00:00"));
     const QString pdf = paper("guia.pdf");
-    test::savePreview(dialogs_, kGuia, pdf);
+    test::savePreview(dialogs_, test::kGuia, pdf);
     const QStringList copy{"DEVOLUÇÃO DE ADIANTAMENTO",
                            "21/12/2014",
                            "Davi Souza",

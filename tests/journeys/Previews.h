@@ -10,6 +10,11 @@
 
 namespace quartela::test {
 
+// The documents' titles, which their windows and files bear.
+inline const QString kRequisicao = QStringLiteral("Requisição de Adiantamento");
+inline const QString kPrestacao = QStringLiteral("Prestação de Contas de Adiantamento");
+inline const QString kGuia = QStringLiteral("Guia de Arrecadação");
+
 // The preview windows on the screen.
 inline QList<reporting::ReportPreview*> previews() {
   QList<reporting::ReportPreview*> shown;

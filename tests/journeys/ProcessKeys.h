@@ -37,6 +37,14 @@ inline Box askNumberAndDate() {
           .defaultButton = Button::Yes};
 }
 
+// The name of the file that "Exportar / Texto" writes.
+inline FileRequest exportRequest() {
+  return {.title = QStringLiteral("Salvar..."),
+          .filter = QStringLiteral("TXT Files(*.txt)|*.txt|"),
+          .folder = {},
+          .fileName = {}};
+}
+
 // What the empenho's row says of its closing: FECHAMENTO|DEVOLUCAO|DATADEV.
 inline QString closingOf(const Office& office) {
   return office.ask(
@@ -44,7 +52,8 @@ inline QString closingOf(const Office& office) {
       "Adiantamento");
 }
 
-struct Person {
+// Who asks for the money, and for what.
+struct Applicant {
   QString name = QStringLiteral("Davi Souza");
   QString purpose = QStringLiteral("Miúdas");
 };
@@ -55,15 +64,16 @@ class ProcessKeys {
       : screen_(screen), dialogs_(dialogs) {}
 
   // The requisition, field after field.
-  void typeRequisition(const QString& amount, const QString& reason, const Person& person = {}) {
+  void typeRequisition(const QString& amount, const QString& reason,
+                       const Applicant& applicant = {}) {
     tabTo("cmbOrgao");
     choose(QStringLiteral("Saúde"));
     press(Qt::Key_Tab);
     choose(QStringLiteral("Ana Lima"));
     press(Qt::Key_Tab);
-    choose(person.name);
+    choose(applicant.name);
     press(Qt::Key_Tab);
-    choose(person.purpose);
+    choose(applicant.purpose);
     press(Qt::Key_Tab);
     choose(screen_.combo("cmbficha")->itemText(0));
     press(Qt::Key_Tab);
@@ -81,10 +91,10 @@ class ProcessKeys {
     takeDialog();
     QCOMPARE(focusName(), QString("mskempenho"));
   }
-  // Reaches the one empenho in its list, then its button.
+  // The one empenho in its list.
+  void pickEmpenho() { pickFirst("lstEmpenho"); }
   void openEmpenho() {
-    tabTo("lstEmpenho");
-    press(Qt::Key_Down);
+    pickEmpenho();
     mnemonic('E');
     takeDialog();
   }
@@ -111,6 +121,10 @@ class ProcessKeys {
       comeForward(screen_.window());
     }
   }
+  void alterEmpenho() {
+    confirmEmpenho({{boxes::askAlteration(), Button::Yes}, {boxes::altered(), Button::Ok}});
+    QVERIFY(!empenhoIsOpen());
+  }
   void includeEmpenho(const QString& number, const QString& order, const QString& withdrawal) {
     openNewEmpenho();
     typeEmpenho(number, order, withdrawal);
@@ -122,6 +136,8 @@ class ProcessKeys {
     mnemonic('C');
     QCOMPARE(screen_.text("cmdPrestacao"), QString("<< Voltar a Requisição"));
   }
+  // The first note in its list.
+  void pickNote() { pickFirst("lstNotas"); }
   // Types a note up to its last field; an empty `date` keeps the one that stands there.
   void typeNote(const QString& date, const QString& document, const QString& history,
                 const QString& amount) {
@@ -163,6 +179,10 @@ class ProcessKeys {
 
  private:
   void settle() { QVERIFY2(dialogs_.satisfied(), dialogs_.report()); }
+  static void pickFirst(const char* list) {
+    tabTo(list);
+    press(Qt::Key_Down);
+  }
   void takeDialog() {
     empenho_ = screen_.child<frmAdiantamento>("frmAdiantamento");
     QVERIFY(empenho_ != nullptr);

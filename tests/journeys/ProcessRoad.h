@@ -58,9 +58,23 @@ struct ProcessRoad {
     }
     return all;
   }
-  void openNotes(const QString& number = QStringLiteral("0012/14")) {
+  void openNew() {
+    desk.openNew();
+    comeForward(desk.window());
+  }
+  void openProcess(const QString& number = QStringLiteral("0012/14")) {
     desk.openProcess(number);
+    comeForward(desk.window());
+  }
+  void openNotes(const QString& number = QStringLiteral("0012/14")) {
+    openProcess(number);
     keys.goToNotes();
+  }
+  // On the page of its notes, process 12/2014 with one note over 300,00 of its 1.000,00.
+  void openWithANote() {
+    desk.addEmpenho();
+    desk.addNote("2014-11-05", "17", "POSTO", 300);
+    openNotes();
   }
 
   ProcessDesk desk;

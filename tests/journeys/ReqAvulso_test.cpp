@@ -47,8 +47,7 @@ class ReqAvulsoJourney : public QObject {
 
     QCOMPARE(office_.ask("SELECT count(*) FROM Requisicao"), processes);
     QCOMPARE(office_.ask("SELECT max(SEQ) FROM ReqAvulso").toInt(), last + 2);
-    main()->close();
-    QCOMPARE(Conexao->state(), Connection::Closed);
+    endsTheProgram();
   }
 
  private:
@@ -117,6 +116,19 @@ class ReqAvulsoJourney : public QObject {
     hands_.click("cmdAplicar");
     QVERIFY2(dialogs_.satisfied(), dialogs_.report());
     QCOMPARE(hands_.enabled("cmdAplicar cmdOk cmdImprimir"), QString("100"));
+  }
+
+  // The requisition that could not be saved is asked for before it goes with the program.
+  void endsTheProgram() {
+    dialogs_.expectBox(test::askAbandon(), Button::No);
+    main()->close();
+    QVERIFY2(dialogs_.satisfied(), dialogs_.report());
+    QCOMPARE(Conexao->state(), Connection::Open);
+    QCOMPARE(hands_.text("txtjustificativa"), QString("Inscrição no curso d'água"));
+    dialogs_.expectBox(test::askAbandon(), Button::Yes);
+    main()->close();
+    QVERIFY2(dialogs_.satisfied(), dialogs_.report());
+    QCOMPARE(Conexao->state(), Connection::Closed);
   }
 
   test::Office office_{test::Data::Demonstration};

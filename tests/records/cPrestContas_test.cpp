@@ -52,7 +52,7 @@ class cPrestContasTest : public QObject {
     dialogs.expectBox(boxes::saved());
     cPrestContas note = sample();
     note.ID_Viagem = 7;
-    note.Save_prest(1);
+    QVERIFY(note.Save_prest(1));
     QCOMPARE(office_->ask(
                  "SELECT SEQ||'|'||PROCESSO||'|'||DATA||'|'||ORDEM||'|'||HISTORICO||'|'||DESPESAS"
                  "||'|'||ID_VIAGEM FROM PrestContas"),
@@ -65,11 +65,11 @@ class cPrestContasTest : public QObject {
     note.Seq = 2;
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::askAlteration(), Button::No);
-    note.Save_prest(2);
+    QVERIFY(note.Save_prest(2));
     QCOMPARE(office_->ask("SELECT ORDEM FROM PrestContas WHERE SEQ = 2"), QStringLiteral("B"));
     dialogs.expectBox(boxes::askAlteration(), Button::Yes);
     dialogs.expectBox(boxes::altered());
-    note.Save_prest(2);
+    QVERIFY(note.Save_prest(2));
     QCOMPARE(office_->ask("SELECT ORDEM FROM PrestContas WHERE SEQ = 2"), QStringLiteral("NF 123"));
   }
 
@@ -79,7 +79,7 @@ class cPrestContasTest : public QObject {
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::saveFailure(ErrorNumber::ParentMissing,
                                          QStringLiteral("FOREIGN KEY constraint failed")));
-    note.Save_prest(1);
+    QVERIFY(!note.Save_prest(1));
     QCOMPARE(office_->ask("SELECT count(*) FROM PrestContas"), QStringLiteral("0"));
   }
 

@@ -108,6 +108,24 @@ class RequisitionHands {
     }
     return texts;
   }
+  QStringList headers(const char* name) const {
+    QStringList texts;
+    for (int column = 0; column < list(name)->columnCount(); ++column) {
+      texts << list(name)->model()->headerData(column, Qt::Horizontal).toString();
+    }
+    return texts;
+  }
+  // What the controls show, name by name; gives the first that shows something else.
+  QString firstOther(const QList<QPair<const char*, QString>>& shown) const {
+    for (const auto& [name, expected] : shown) {
+      if (text(name) != expected) {
+        return QLatin1String(name) + QStringLiteral(": ") + text(name);
+      }
+    }
+    return {};
+  }
+  // The letter underlined on a label or button, with Alt.
+  void mnemonic(Qt::Key letter) const { QTest::keyClick(window_, letter, Qt::AltModifier); }
   static void clickRow(ListView* list, int row) {
     list->flush();
     const QRect place = list->visualRect(list->model()->index(row, 0));
@@ -154,6 +172,14 @@ inline Box informedQuestion(const QString& text) {
           .icon = BoxIcon::Information,
           .buttons = {Button::Yes, Button::No},
           .defaultButton = Button::Yes};
+}
+
+inline Box openAdvance() {
+  return {.text = QStringLiteral("Há um adiantamento nesta finalidade já aberto !!!"),
+          .title = QStringLiteral("Aviso"),
+          .icon = BoxIcon::Exclamation,
+          .buttons = {Button::Ok, Button::Cancel},
+          .defaultButton = Button::Cancel};
 }
 
 inline Box askAbandon() {

@@ -64,6 +64,38 @@ class frmAdiantamentoTest : public QObject {
     }
     QVERIFY(child<QWidget>("Frame4")->isEnabled());
     QVERIFY(!child<QWidget>("mskempenho")->isEnabled());
+    QCOMPARE(focused(), QString("mskOP"));
+  }
+
+  void bearsItsCaptions() {
+    openNew();
+    const QList<QPair<const char*, QString>> captions{{"lblempenho", "Empenho n°"},
+                                                      {"lblOP", "O.P.  n°"},
+                                                      {"lblabertura", "Data abertura"},
+                                                      {"lblretirada", "Data retirada"},
+                                                      {"lblfechar_em", "Fechar em"},
+                                                      {"lblfechamento", "Data fechamento"},
+                                                      {"lbldev", "Valor devolvido"},
+                                                      {"lbldevolucao", "Data da devolução"},
+                                                      {"Check1", "Anular este empenho?"},
+                                                      {"Command1", "OK"},
+                                                      {"Command2", "Cancelar"}};
+    for (const auto& [name, caption] : captions) {
+      QCOMPARE(child<QWidget>(name)->property("text").toString().remove('&'), caption);
+    }
+    QCOMPARE(child<MaskedBox>("mskempenho")->mask(), QString("#####/##"));
+    QVERIFY(!child<QWidget>("txtprocesso")->isVisible());
+  }
+
+  // The opening date has no empty state.
+  void aFailedLoadingIsTold() {
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::internalError(ErrorNumber::TypeMismatch, "Função Carrega_dados"));
+    openToEdit("UPDATE Adiantamento SET ABERTURA = NULL");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(isOpen());
+    QCOMPARE(text("mskempenho"), QString("00500/14"));
+    QVERIFY(child<QWidget>("Frame4")->isEnabled());
   }
 
   void theAnnulledBoxOpensUntickedAndOkClearsTheMark() {
@@ -80,6 +112,16 @@ class frmAdiantamentoTest : public QObject {
     saveAltered();
     QCOMPARE(desk_->office().ask("SELECT ANULADO FROM Adiantamento"), QString("1"));
     QCOMPARE(desk_->list("lstEmpenho")->subItem(0, 8), QString("SIM"));
+  }
+
+  void theTabKeyVisitsTheFieldsInOrder() {
+    openToEdit();
+    child<QWidget>("mskOP")->setFocus();
+    QStringList round = test::tabRound(*dialog_);
+    round.removeIf([](const QString& name) { return name.startsWith("qt_calendar"); });
+    QCOMPARE(round,
+             QStringList({"mskOP", "dtpabertura", "dtpretirada", "dtpfechar_em", "Check1",
+                          "dtpfechamento", "mskdev", "dtpdevolucao", "Command1", "Command2"}));
   }
 
   void savesANewEmpenho() {
@@ -149,8 +191,30 @@ class frmAdiantamentoTest : public QObject {
     QVERIFY(!isOpen());
   }
 
+  void theFrameAsksBeforeTypingIsLost() {
+    openNew();
+    type("mskOP", "1");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    QVERIFY(!dialog_->close());
+    QVERIFY(isOpen());
+    QCOMPARE(text("mskOP"), QString("1"));
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    QVERIFY(dialog_->close());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+  }
+
   void escapeWithNothingTypedCloses() {
     openNew();
+    QTest::keyClick(dialog_, Qt::Key_Escape);
+    QVERIFY(!isOpen());
+  }
+
+  void lookingRoundIsNotTyping() {
+    openToEdit("UPDATE Adiantamento SET DEVOLUCAO = 12345000");
+    child<QCalendarWidget>("MonthView1")->setCurrentPage(2016, 3);
+    child<QWidget>("mskdev")->setFocus();
+    ScriptedDialogs dialogs;
     QTest::keyClick(dialog_, Qt::Key_Escape);
     QVERIFY(!isOpen());
   }
@@ -204,10 +268,18 @@ class frmAdiantamentoTest : public QObject {
     QVERIFY2(dialogs.satisfied(), dialogs.report());
   }
 
-  void aDateTypedByHalfIsRefused() {
+  void aDateThatIsNoneIsRefused_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("half a date") << "0112";
+    QTest::newRow("before 1997") << "31121996";
+    QTest::newRow("after 2100") << "01012101";
+    QTest::newRow("no such day") << "31022014";
+  }
+  void aDateThatIsNoneIsRefused() {
+    QFETCH(QString, typed);
     openNew();
     fill();
-    type("dtpfechar_em", "0112");
+    type("dtpfechar_em", typed);
     ScriptedDialogs dialogs;
     dialogs.expectBox(test::warning("Data inválida!!"));
     click("Command1");
@@ -300,6 +372,28 @@ class frmAdiantamentoTest : public QObject {
     saveAltered();
     QCOMPARE(desk_->office().ask("SELECT DEVOLUCAO||'|'||coalesce(DATADEV, '') FROM Adiantamento"),
              QString("0|"));
+  }
+
+  // An amount that was emptied is all that is put right then.
+  void theReturnDateStaysBesideAnEmptiedAmount() {
+    openToEdit();
+    child<MoneyEdit>("mskdev")->clear();
+    type("dtpdevolucao", "15112014");
+    saveAltered();
+    QCOMPARE(desk_->office().ask("SELECT DEVOLUCAO||'|'||DATADEV FROM Adiantamento"),
+             QString("0|2014-11-15 00:00:00"));
+  }
+
+  // More is spent than was given: the amount that stood there is kept and stored.
+  void okStoresTheAmountThatWasKept() {
+    desk_->addEmpenho();
+    desk_->addNote("2014-11-05", "1", "A", 1500);
+    desk_->office().run("UPDATE Adiantamento SET DEVOLUCAO = 50000");
+    openSelected();
+    type("dtpfechamento", "15112014");
+    saveAltered();
+    QCOMPARE(desk_->office().ask("SELECT FECHAMENTO||'|'||DEVOLUCAO FROM Adiantamento"),
+             QString("2014-11-15 00:00:00|50000"));
   }
 
   void closesAndReopensByHand() {

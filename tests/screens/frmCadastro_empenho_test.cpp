@@ -2,6 +2,7 @@
 // reopening.
 #include "screens/frmAdiantamento.h"
 #include "tests/screens/ProcessDesk.h"
+#include "tests/support/WindowChecks.h"
 #include "tests/support/office/OfficeMain.h"
 
 namespace quartela {
@@ -116,9 +117,7 @@ class frmCadastroEmpenhoTest : public QObject {
     QCOMPARE(desk_->enabled("fracadastro cmdAplicar"), QString("11"));
     select(false);
     ScriptedDialogs dialogs;
-    dialogs.expectBox(
-        boxes::question("Confirma exclusão do Adiantamento: 00500/14 e seus relacionamentos."),
-        yes ? Button::Yes : Button::No);
+    dialogs.expectBox(askExclusion(), yes ? Button::Yes : Button::No);
     if (yes) {
       dialogs.expectBox(boxes::deleted());
     }
@@ -130,20 +129,33 @@ class frmCadastroEmpenhoTest : public QObject {
   }
 
   void leavingRefreshesOnlyAfterAnEmpenhoCommand_data() {
-    QTest::addColumn<bool>("touched");
-    QTest::newRow("untouched") << false;
-    QTest::newRow("dialog opened") << true;
+    QTest::addColumn<QByteArray>("command");
+    QTest::newRow("untouched") << QByteArray();
+    for (const char* name : {"cmdnovo", "cmdalterar", "cmdexcluir"}) {
+      QTest::newRow(name) << QByteArray(name);
+    }
   }
   void leavingRefreshesOnlyAfterAnEmpenhoCommand() {
-    QFETCH(bool, touched);
+    QFETCH(QByteArray, command);
+    if (command == "cmdalterar" || command == "cmdexcluir") {
+      desk_->addEmpenho();
+    }
     desk_->openProcess();
-    if (touched) {
-      desk_->click("cmdnovo");
+    if (!command.isEmpty()) {
+      ScriptedDialogs dialogs;
+      if (command == "cmdexcluir") {
+        dialogs.expectBox(askExclusion(), Button::No);
+      }
+      if (command != "cmdnovo") {
+        select(false);
+      }
+      desk_->click(command.constData());
+      QVERIFY2(dialogs.satisfied(), dialogs.report());
     }
     desk_->office().run("DELETE FROM Requisicao");
     desk_->click("Command1_0");
     QVERIFY(!desk_->isOpen());
-    QCOMPARE(desk_->mainList().count(), touched ? 0 : 1);
+    QCOMPARE(desk_->mainList().count(), command.isEmpty() ? 1 : 0);
   }
 
   void columnsSortAndTurnRound() {
@@ -186,9 +198,7 @@ class frmCadastroEmpenhoTest : public QObject {
     desk_->openProcess();
     select(false);
     ScriptedDialogs dialogs;
-    dialogs.expectBox(
-        boxes::question("Confirma exclusão do Adiantamento: 00500/14 e seus relacionamentos."),
-        Button::Yes);
+    dialogs.expectBox(askExclusion(), Button::Yes);
     dialogs.expectBox(boxes::deleted());
     desk_->click("cmdexcluir");
     dialogs.expectBox(test::untrapped(ErrorNumber::SubscriptOutOfRange));
@@ -230,10 +240,7 @@ class frmCadastroEmpenhoTest : public QObject {
     QFETCH(int, spent);
     QFETCH(bool, slip);
     test::PrintedReports printed;
-    desk_->addEmpenho();
-    desk_->addNote("2014-11-05", "1", "A", spent);
-    desk_->openProcess();
-    desk_->click("cmdPrestacao");
+    openWith(spent);
     ScriptedDialogs dialogs;
     dialogs.expectBox(test::informedQuestion("Deseja Encerrar o Adiantamento agora?"), Button::Yes);
     dialogs.expectBox({.text = "Empenho Encerrado!!!",
@@ -252,15 +259,64 @@ class frmCadastroEmpenhoTest : public QObject {
     }
   }
 
-  void notClosingChangesNothing() {
-    desk_->addEmpenho();
-    desk_->addNote("2014-11-05", "1", "A", 10);
+  void aFailedClosingKeepsTheCaption() {
+    openWith(1000);
+    desk_->office().run("DELETE FROM Adiantamento");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::informedQuestion("Deseja Encerrar o Adiantamento agora?"), Button::Yes);
+    dialogs.expectBox(boxes::internalError(ErrorNumber::CurrentRowMissing, "Encerra_adiantamento"));
+    desk_->click("cmdEncerrar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->text("cmdEncerrar"), QString("Encerrar Empenho"));
+    QCOMPARE(buttonColour(), QColor(255, 255, 128));
+    QCOMPARE(desk_->list("lstEmpenho")->count(), 0);
+    QVERIFY(desk_->isOpen());
+  }
+
+  // Its list is read anew; the page goes on working on it.
+  void aClosedEmpenhoStaysTheChosenOne() {
+    openWith(1000);
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::informedQuestion("Deseja Encerrar o Adiantamento agora?"), Button::Yes);
+    dialogs.expectBox({.text = "Empenho Encerrado!!!",
+                       .title = "Finalizar Prestação de Contas",
+                       .icon = BoxIcon::Information});
+    desk_->click("cmdEncerrar");
+    QCOMPARE(test::mnemonicClashes(*desk_->window()), QString());
+    QCOMPARE(test::clippedTexts(*desk_->window()), QString());
+    test::PrintedReports printed;
+    desk_->click("Command1_4");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(printed.requests.size(), 1);
+    QCOMPARE(printed.requests[0].campos.value("Field3"), QString("00500/14"));
+  }
+
+  // The dialog goes with this window, but not what is typed in it.
+  void closingAsksForWhatIsTypedInTheDialog() {
     desk_->openProcess();
-    desk_->click("cmdPrestacao");
+    desk_->click("cmdnovo");
+    test::typeText(dialog()->findChild<QWidget*>("mskOP"), "77");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    desk_->click("Command1_0");
+    QVERIFY(desk_->isOpen());
+    QVERIFY(dialog() != nullptr);
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    desk_->click("Command1_0");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(!desk_->isOpen());
+  }
+
+  // Both lists are read anew all the same.
+  void notClosingChangesNothing() {
+    openWith(10);
+    desk_->office().run("UPDATE Requisicao SET VALOR = 20000000; UPDATE Adiantamento SET OP = 78");
     ScriptedDialogs dialogs;
     dialogs.expectBox(test::informedQuestion("Deseja Encerrar o Adiantamento agora?"), Button::No);
     desk_->click("cmdEncerrar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->mainList().subItem(0, 5), QString("2.000,00"));
+    QCOMPARE(desk_->list("lstEmpenho")->subItem(0, 7), QString("78"));
     QCOMPARE(state(), QString("|0|"));
     QCOMPARE(desk_->text("cmdEncerrar"), QString("Encerrar Empenho"));
   }
@@ -297,6 +353,16 @@ class frmCadastroEmpenhoTest : public QObject {
   }
 
  private:
+  static Box askExclusion() {
+    return boxes::question("Confirma exclusão do Adiantamento: 00500/14 e seus relacionamentos.");
+  }
+  // One note of that many reais, on the page of the notes.
+  void openWith(int spent) {
+    desk_->addEmpenho();
+    desk_->addNote("2014-11-05", "1", "A", spent);
+    desk_->openProcess();
+    desk_->click("cmdPrestacao");
+  }
   void select(bool withKey) {
     ListView* list = desk_->list("lstEmpenho");
     if (withKey) {

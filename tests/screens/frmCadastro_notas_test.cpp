@@ -1,8 +1,11 @@
 // The notes of the process screen: entry, checks, aids to typing, money summary.
 #include <QCheckBox>
 #include <QMenu>
+#include <QSet>
 
+#include "foundation/Banco.h"
 #include "tests/screens/ProcessDesk.h"
+#include "tests/support/WindowChecks.h"
 #include "tests/support/office/OfficeMain.h"
 
 namespace quartela {
@@ -16,6 +19,88 @@ class frmCadastroNotasTest : public QObject {
  private slots:
   void init() { desk_ = std::make_unique<test::ProcessDesk>(); }
   void cleanup() { desk_.reset(); }
+
+  void opensThePageOfNotes() {
+    desk_->openNotes();
+    QCOMPARE(desk_->firstOther({{"lbldatanota", "Data"},
+                                {"lblordem", "Identificação da Nota"},
+                                {"lblrazao", "Histórico (Razão Social)"},
+                                {"lblvalornota", "Valor"},
+                                {"Check1", "Habilitar busca aut."},
+                                {"Check2", "Exceções na data"},
+                                {"Command1_1", "Alterar"},
+                                {"Command1_2", "Gravar"},
+                                {"Command1_3", "Incluir"},
+                                {"Command1_4", "Imprimir Prestação de Contas"},
+                                {"Command1_5", "Exportar / Texto"},
+                                {"Command1_6", "Cancel"},
+                                {"cap_lblEmpenho", "Valor do empenho:"},
+                                {"cap_lblGasto", "Total gasto:"},
+                                {"cap_lblNao_aplicado", "Importância não aplicada:"},
+                                {"txtseq", "0"},
+                                {"Text1", ""}}),
+             QString());
+    QCOMPARE(desk_->headers("lstNotas"),
+             QStringList({"SEQ", "DATA", " DOC.", "IDENTIFICAÇÃO DO DOCUMENTO", "VALOR", "TOTAL"}));
+    const QList<QPair<const char*, int>> lengths{
+        {"txtdatanota", 10}, {"txtordem", 10}, {"txtrazao_social", 45}, {"mskValor_nota", 64}};
+    for (const auto& [name, length] : lengths) {
+      QCOMPARE(desk_->child<QLineEdit>(name)->maxLength(), length);
+    }
+    QVERIFY(desk_->child<QCheckBox>("Check1")->isChecked());
+    QVERIFY(desk_->child<QCheckBox>("Check2")->isChecked());
+    QCOMPARE(desk_->enabled("Check1 Check2"), QString("10"));
+    for (const char* hidden : {"txtseq", "Text1", "pbr", "lblachou_0", "lblachou_1"}) {
+      QVERIFY(!desk_->widget(hidden)->isVisible());
+    }
+  }
+
+  void theTabKeyVisitsThePageInOrder() {
+    desk_->addNoteRows();
+    desk_->click("Command1_3");
+    QCOMPARE(test::tabRound(*desk_->window()),
+             QStringList({"txtdatanota", "txtordem", "txtrazao_social", "mskValor_nota",
+                          "Command1_2", "Command1_6", "Check1", "lstNotas", "Command1_5",
+                          "Command1_4", "cmdEncerrar", "cmdPrestacao", "Command1_0"}));
+  }
+
+  void paintsButtonsAndAmounts() {
+    desk_->openNotes();
+    const auto colour = [this](const char* name, QPalette::ColorRole role) {
+      return desk_->widget(name)->palette().color(QPalette::Active, role);
+    };
+    QCOMPARE(colour("Command1_4", QPalette::Button), QColor(0xC8, 0xF0, 0xC8));
+    QCOMPARE(colour("Command1_5", QPalette::Button), QColor(Qt::white));
+    QCOMPARE(colour("lblEmpenho", QPalette::WindowText), QColor(0, 0, 255));
+    QCOMPARE(colour("lblGasto", QPalette::WindowText), QColor(0, 0x64, 0));
+    QCOMPARE(colour("lblNao_aplicado", QPalette::WindowText), QColor(0, 0, 255));
+  }
+
+  // A name is shown as it was typed, whatever it looks like.
+  void showsNamesAsTheyStand() {
+    desk_->office().run("UPDATE Tomador SET NOME1 = '<b>Davi</b> & Cia' WHERE ID = 1");
+    desk_->openNotes();
+    QCOMPARE(desk_->text("lblIdentificacao_27").section(" - ", 1, 1), QString("<b>Davi</b>  Cia"));
+    for (const char* name : {"lblIdentificacao_27", "lblachou_0", "lblachou_1"}) {
+      QCOMPARE(desk_->child<QLabel>(name)->textFormat(), Qt::PlainText);
+    }
+  }
+
+  // Amounts sort as the texts that they are.
+  void columnsSortAndTurnRound() {
+    desk_->addNoteRows();
+    ListView* list = desk_->list("lstNotas");
+    const auto documents = [list] {
+      list->flush();
+      return list->subItem(0, 2) + ' ' + list->subItem(1, 2) + ' ' + list->subItem(2, 2);
+    };
+    QCOMPARE(documents(), QString("17 45 46"));
+    emit list->columnClicked(5);
+    const QString once = documents();
+    emit list->columnClicked(5);
+    const QString twice = documents();
+    QCOMPARE(QSet<QString>({once, twice}), QSet<QString>({"46 45 17", "17 45 46"}));
+  }
 
   // The table of states, cell by cell: fraNotas, Alterar, Gravar, Incluir, Cancel.
   void enablesByState_data() {
@@ -96,11 +181,84 @@ class frmCadastroNotasTest : public QObject {
 
   void storesWithoutAccents() {
     desk_->openNotes();
-    note("05/11/2014", "nf 7", "açougue são joão", "10");
+    note("05/11/2014", " nf 7 ", " açougue são joão ", "10");
     save();
     QCOMPARE(desk_->office().ask(
                  "SELECT HISTORICO||'|'||ORDEM||'|'||ID_VIAGEM||'|'||PROCESSO FROM PrestContas"),
              QString("ACOUGUE SAO JOAO|Nf 7|0|50014"));
+  }
+
+  // A letter of the keyboard presses the button without leaving the field.
+  void theDocumentGetsItsCapitalsAlsoByTheKeyboard() {
+    desk_->openNotes();
+    note("05/11/2014", "1", "D'ÁVILA", "10");
+    desk_->type("txtordem", "nf 7");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::saved());
+    desk_->mnemonic(Qt::Key_G);
+    QTRY_VERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask("SELECT ORDEM||'|'||HISTORICO FROM PrestContas"),
+             QString("Nf 7|D'AVILA"));
+  }
+
+  void aFailedSaveIsToldAndLosesNothing_data() {
+    QTest::addColumn<bool>("alters");
+    QTest::newRow("new") << false;
+    QTest::newRow("altered") << true;
+  }
+  void aFailedSaveIsToldAndLosesNothing() {
+    QFETCH(bool, alters);
+    withOneNote();
+    if (alters) {
+      pickNote();
+      desk_->click("Command1_1");
+      desk_->type("txtrazao_social", "PADARIA");
+    } else {
+      note("05/11/2014", "9", "PADARIA", "12,5");
+    }
+    const QString amount = alters ? "1.100,00" : "12,50";
+    Connection other;
+    other.open(QStringLiteral("Data Source=") + desk_->office().database());
+    other.beginTransaction();
+    ScriptedDialogs dialogs;
+    if (alters) {
+      dialogs.expectBox(boxes::askAlteration(), Button::Yes);
+    }
+    dialogs.expectBox(boxes::saveFailure(ErrorNumber::RowLocked, test::kAnything));
+    desk_->click("Command1_2");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->firstOther({{"txtdatanota", "05/11/2014"},
+                                {"txtordem", alters ? "17" : "9"},
+                                {"txtrazao_social", "PADARIA"},
+                                {"mskValor_nota", amount}}),
+             QString());
+    QCOMPARE(desk_->enabled("fraNotas Command1_2 Command1_3 Command1_6"), QString("1101"));
+    other.rollback();
+    if (alters) {
+      dialogs.expectBox(boxes::askAlteration(), Button::Yes);
+    }
+    dialogs.expectBox(alters ? boxes::altered() : boxes::saved());
+    desk_->click("Command1_2");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM PrestContas WHERE HISTORICO = 'PADARIA'"),
+             QString("1"));
+    QCOMPARE(desk_->text("txtrazao_social"), QString());
+  }
+
+  // Declined, the alteration is over, as after saving it.
+  void aDeclinedAlterationEndsTheEntry() {
+    withOneNote();
+    pickNote();
+    desk_->click("Command1_1");
+    desk_->type("mskValor_nota", "40");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askAlteration(), Button::No);
+    desk_->click("Command1_2");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask("SELECT DESPESAS FROM PrestContas"), QString("11000000"));
+    QCOMPARE(desk_->text("mskValor_nota"), QString());
+    QCOMPARE(desk_->enabled("fraNotas Command1_1 Command1_2 Command1_3 Command1_6"),
+             QString("01010"));
   }
 
   void checks_data() {
@@ -395,6 +553,19 @@ class frmCadastroNotasTest : public QObject {
     QCOMPARE(field->text(), QString("ME"));
   }
 
+  // What is stored bears no accents, so that what is typed with them finds nothing.
+  void proposesNothingForAnAccent() {
+    desk_->addEmpenho();
+    desk_->addNote("2014-11-05", "17", "ACOUGUE", 10);
+    desk_->openProcess();
+    desk_->click("cmdPrestacao");
+    desk_->click("Command1_3");
+    desk_->type("txtrazao_social", "aç");
+    QCOMPARE(desk_->text("txtrazao_social"), QString("AÇ"));
+    desk_->type("txtrazao_social", "ac");
+    QCOMPARE(desk_->text("txtrazao_social"), QString("ACOUGUE"));
+  }
+
   void aFailedLookUpIsTold() {
     desk_->addNoteRows();
     desk_->click("Command1_3");
@@ -423,6 +594,39 @@ class frmCadastroNotasTest : public QObject {
     QTest::keyClick(desk_->widget("txtrazao_social"), Qt::Key_Escape);
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->text("txtrazao_social"), QString("X"));
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    QVERIFY(!desk_->window()->close());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->text("txtrazao_social"), QString("X"));
+  }
+
+  void aNoteOnlyLookedAtIsNotAskedFor_data() {
+    QTest::addColumn<bool>("deleted");
+    QTest::newRow("loaded") << false;
+    QTest::newRow("deleted meanwhile") << true;
+  }
+  void aNoteOnlyLookedAtIsNotAskedFor() {
+    QFETCH(bool, deleted);
+    withOneNote();
+    pickNote();
+    desk_->click("Command1_1");
+    desk_->widget("mskValor_nota")->setFocus();
+    ScriptedDialogs dialogs;
+    if (deleted) {
+      dialogs.expectBox({.text = test::kAnything,
+                         .title = "Aviso",
+                         .icon = BoxIcon::Question,
+                         .buttons = {Button::Yes, Button::No},
+                         .defaultButton = Button::Yes},
+                        Button::Yes);
+      dialogs.expectBox(boxes::deleted());
+      QTest::keyClick(desk_->list("lstNotas"), Qt::Key_Delete);
+      for (const char* name : {"txtdatanota", "txtordem", "txtrazao_social", "mskValor_nota"}) {
+        QCOMPARE(desk_->text(name), QString());
+      }
+    }
+    QVERIFY(desk_->window()->close());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
   }
 
  private:

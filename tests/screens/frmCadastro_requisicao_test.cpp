@@ -48,6 +48,8 @@ class frmCadastroRequisicaoTest : public QObject {
                                                                            << "11010111";
     QTest::newRow("existing, one empenho") << "empenho"
                                            << "01010111";
+    QTest::newRow("existing, two empenhos") << "two"
+                                            << "01011110";
     QTest::newRow("dialog opened by cmdnovo") << "novo"
                                               << "00011110";
     QTest::newRow("dialog opened by cmdalterar") << "alterar"
@@ -57,6 +59,59 @@ class frmCadastroRequisicaoTest : public QObject {
     QFETCH(QString, state);
     enter(state);
     QCOMPARE(desk_->enabled(kStates), QTest::currentDataTag() ? expected() : QString());
+  }
+
+  void bearsItsCaptions() {
+    desk_->openNew();
+    QCOMPARE(desk_->firstOther(
+                 {{"lblProcesso", "Processo"},
+                  {"lblData", "Data"},
+                  {"lblOrgao", "Orgão (Secretaria)"},
+                  {"lblTipo", "Finalidade"},
+                  {"lblficha", "Dotação"},
+                  {"lblvalor", "Valor"},
+                  {"lblJustificativa",
+                   "Justificativa (Qual a necessidade da aquisição deste adiantamento, se for "
+                   "curso relatar o tipo de curso, cidade, datas e os participantes desta)"},
+                  {"lblObrigatorios", "( * ) Campos de preenchimento obrigatórios"},
+                  {"cmdnovo", "Incluir Empenho"},
+                  {"cmdalterar", "Aletrar Empenho"},
+                  {"cmdexcluir", "Excluir Empenho"},
+                  {"cmdOk", "OK"},
+                  {"cmdImprimir", "Imprimir"},
+                  {"cmdAplicar", "Aplicar"},
+                  {"Command1_0", "Sair"},
+                  {"cmdPrestacao", "Prestação de Contas >>"}}),
+             QString());
+    QCOMPARE(desk_->widget("Frame2")->property("title").toString(), "O&rdenador:");
+    QCOMPARE(desk_->widget("Frame3")->property("title").toString(), "Respo&nsável:");
+    const auto* tabs = desk_->child<TwoPageTab>("SSTab1");
+    QCOMPARE(tabs->tabText(0), "Requisição");
+    QCOMPARE(tabs->tabText(1), "&Prestação de Contas");
+    QCOMPARE(desk_->headers("lstEmpenho"),
+             QStringList({"Empenho", "Abertura", "Retirada", "Fechar em", "Fechamento",
+                          "Valor devolvido", "Data devolução", "O.P.", "Anulado?"}));
+  }
+
+  // What must be filled in is what bears a star.
+  void marksTheRequiredFields() {
+    desk_->openNew();
+    const QList<QPair<const char*, const char*>> starred{{"cmbOrgao", "ast_orgao"},
+                                                         {"cmbOrdenador", "ast_cmbOrdenador"},
+                                                         {"cmbResponsavel", "ast_cmbResponsavel"},
+                                                         {"cmbTipo", "ast_tipo"},
+                                                         {"cmbficha", "ast_ficha"},
+                                                         {"mskvalor", "ast_valor"},
+                                                         {"txtjustificativa", "ast_justificativa"}};
+    for (const auto& [field, star] : starred) {
+      QCOMPARE(desk_->widget(field)->property("Tag").toString(), "1");
+      QVERIFY(desk_->widget(star)->isVisible());
+      QCOMPARE(desk_->text(star), "*");
+    }
+    for (const char* field : {"mskprocesso", "dtpdata", "txtid", "txtid2", "txtcargo"}) {
+      QCOMPARE(desk_->widget(field)->property("Tag").toString(), "");
+    }
+    QVERIFY(!desk_->widget("txtcargo")->isVisible() && !desk_->widget("txtkey")->isVisible());
   }
 
   void opensANewRequisition() {
@@ -74,13 +129,23 @@ class frmCadastroRequisicaoTest : public QObject {
   }
 
   void theTabKeyVisitsTheFieldsInOrder() {
+    desk_->openNew();
+    QCOMPARE(desk_->focused(), "dtpdata");
     desk_->openProcess();
-    desk_->widget("dtpdata")->setFocus();
+    QCOMPARE(desk_->focused(), "dtpdata");
     QCOMPARE(test::tabRound(*desk_->window()),
              QStringList({"dtpdata", "cmbOrgao", "cmbOrdenador", "cmbResponsavel", "cmbTipo",
                           "cmbficha", "mskvalor", "txtjustificativa", "lstEmpenho", "cmdnovo",
-                          "cmdalterar", "cmdexcluir", "cmdImprimir", "cmdAplicar", "Command1_0",
-                          "qt_tabwidget_tabbar"}));
+                          "cmdalterar", "cmdexcluir", "cmdImprimir", "cmdAplicar", "Command1_0"}));
+  }
+
+  void theTabKeyPassesByWhatCannotBeAlteredAnyMore() {
+    desk_->addEmpenho();
+    desk_->openProcess();
+    QCOMPARE(desk_->focused(), "lstEmpenho");
+    QCOMPARE(test::tabRound(*desk_->window()),
+             QStringList({"lstEmpenho", "cmdalterar", "cmdexcluir", "cmdImprimir", "cmdAplicar",
+                          "cmdPrestacao", "Command1_0"}));
   }
 
   void fillsTheListsOneAfterTheOther() {
@@ -236,9 +301,9 @@ class frmCadastroRequisicaoTest : public QObject {
     desk_->combo("cmbficha")->setText("128");
     ScriptedDialogs dialogs;
     if (warned) {
-      dialogs.expectBox(openAdvance(), Button::Cancel);
+      dialogs.expectBox(test::openAdvance(), Button::Cancel);
       desk_->click("cmdAplicar");
-      dialogs.expectBox(openAdvance(), Button::Ok);
+      dialogs.expectBox(test::openAdvance(), Button::Ok);
     }
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
     dialogs.expectBox(boxes::saved());
@@ -269,8 +334,12 @@ class frmCadastroRequisicaoTest : public QObject {
     QVERIFY(!desk_->widget("mskprocesso")->isEnabled());
   }
 
+  // Person and type stand at places (1, 1), where the other requisition would be found.
   void altersAProcessWithoutWarningOrCounter() {
-    desk_->office().run("UPDATE Requisicao SET TOMADOR = 3, FINALIDADE = 2");
+    desk_->office().run("UPDATE Requisicao SET TOMADOR = 2, FINALIDADE = 2");
+    desk_->office().run(
+        "INSERT INTO Requisicao(SEQ, DATA, ORGAO, TOMADOR, VALOR, FINALIDADE) VALUES "
+        "(114, '2014-10-01 00:00:00', 1, 1, 5, 1)");
     desk_->openProcess();
     desk_->type("mskvalor", "2000");
     ScriptedDialogs dialogs;
@@ -278,9 +347,111 @@ class frmCadastroRequisicaoTest : public QObject {
     dialogs.expectBox(boxes::altered());
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(desk_->office().ask("SELECT VALOR||'|'||FICHA FROM Requisicao"), "20000000|99");
+    QCOMPARE(desk_->office().ask("SELECT VALOR||'|'||FICHA FROM Requisicao WHERE SEQ = 1214"),
+             "20000000|99");
     QCOMPARE(counter(), "327");
     QCOMPARE(desk_->enabled("cmdAplicar cmdOk cmdImprimir"), "011");
+  }
+
+  void showsPeopleWhoAreNoLongerActive() {
+    desk_->office().run("UPDATE Requisicao SET TOMADOR = 2, ORGAO = 2");
+    desk_->openProcess();
+    QCOMPARE(desk_->text("cmbResponsavel"), "Elza Nunes");
+    QCOMPARE(desk_->text("txtid2"), "RG: 55 - CPF: 5");
+    QCOMPARE(desk_->text("cmbOrdenador"), "Beto Reis");
+  }
+
+  // Quotes end a text in a statement; none of these stands in one.
+  void takesApostrophesInNamesAndTexts() {
+    desk_->office().run(
+        "UPDATE Orgao SET ORGAO = 'Caixa d''Água';"
+        "UPDATE Executor SET NOME = 'Ana D''Ávila' WHERE ORDEM = 1;"
+        "UPDATE Tomador SET NOME1 = 'Davi Sant''Ana' WHERE ID = 1;"
+        "UPDATE Tipos SET TIPO = 'Miúdas d''uso' WHERE SEQUENCIA = 1");
+    desk_->openProcess();
+    QCOMPARE(desk_->firstOther({{"cmbOrgao", "Caixa d'Água"},
+                                {"cmbOrdenador", "Ana D'Ávila"},
+                                {"cmbResponsavel", "Davi Sant'Ana"},
+                                {"cmbTipo", "Miúdas d'uso"}}),
+             QString());
+    emit desk_->combo("cmbficha")->dropDown();
+    desk_->empty("txtjustificativa");
+    desk_->type("txtjustificativa", "copo d'água; DROP TABLE Requisicao --");
+    saveAltered();
+    QCOMPARE(desk_->office().ask("SELECT JUSTIFICATIVA FROM Requisicao"),
+             "copo d'água; DROP TABLE Requisicao --");
+  }
+
+  void theAmountTakesAmountsOnly_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("letters") << "a1b2"
+                             << "120000";
+    QTest::newRow("two commas") << "1,2,3"
+                                << "12300";
+    QTest::newRow("minus") << "-5"
+                           << "50000";
+    QTest::newRow("dot as comma") << "12.50"
+                                  << "125000";
+    QTest::newRow("more digits than money holds") << "9999999999999999"
+                                                  << "999999999999990000";
+  }
+  void theAmountTakesAmountsOnly() {
+    QFETCH(QString, typed);
+    desk_->openProcess();
+    desk_->type("mskvalor", typed);
+    saveAltered();
+    QTEST(desk_->office().ask("SELECT VALOR FROM Requisicao"), "stored");
+  }
+
+  // A letter of the keyboard presses the button without leaving the field.
+  void aDateTypedByHalfIsNotPassedOverByTheKeyboard() {
+    desk_->openProcess();
+    desk_->type("dtpdata", "15");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Data inválida!!"));
+    desk_->mnemonic(Qt::Key_A);
+    QTRY_VERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->focused(), "dtpdata");
+    QCOMPARE(desk_->enabled("cmdAplicar"), "1");
+  }
+
+  // What the lists cannot read is passed over; the rest of the routine runs.
+  void aListWithoutAChoiceReadsNothing() {
+    desk_->openProcess();
+    desk_->combo("cmbOrgao")->setCurrentIndex(-1);
+    ScriptedDialogs dialogs;
+    emit desk_->combo("cmbOrgao")->picked(0);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->text("txtid"), "");
+    QCOMPARE(desk_->items("cmbTipo"), QStringList({"Miúdas", "Viagem"}));
+  }
+
+  // It would pass for number 1000 of another year.
+  void aNumberThatOutgrowsItsPlaceIsNotCut() {
+    Grava_contador("2014", "9998", desk_->office().counter());
+    desk_->openNew();
+    QCOMPARE(desk_->text("mskprocesso"), "9999/14");
+    Grava_contador("2014", "9999", desk_->office().counter());
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::internalError(ErrorNumber::Overflow, "Função Novo_item"));
+    desk_->openNew();
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->text("mskprocesso"), "____/__");
+  }
+
+  void withoutANumberNothingIsSaved() {
+    Grava_contador("2015", "0", desk_->office().counter());
+    ScriptedDialogs dialogs;
+    dialogs.expectBox({.text = "Erro no relógio do micro ou o arquivo INI está adulterado."});
+    desk_->openNew();
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    desk_->fillRequisition();
+    dialogs.expectBox(test::untrapped(ErrorNumber::TypeMismatch));
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM Requisicao"), "1");
+    QCOMPARE(desk_->text("txtjustificativa"), "Compras miúdas");
   }
 
   void aNumberBeyondSixteenBitsFailsToLoad() {
@@ -414,20 +585,57 @@ class frmCadastroRequisicaoTest : public QObject {
     QVERIFY(!desk_->isOpen());
   }
 
+  // An amount loses its thousands dots while it has the focus.
+  void escapeWithNothingTypedJustCloses_data() {
+    QTest::addColumn<QByteArray>("field");
+    for (const char* name : {"txtjustificativa", "mskvalor", "dtpdata", "cmbTipo"}) {
+      QTest::newRow(name) << QByteArray(name);
+    }
+  }
   void escapeWithNothingTypedJustCloses() {
+    QFETCH(QByteArray, field);
     desk_->openProcess();
-    QTest::keyClick(desk_->widget("txtjustificativa"), Qt::Key_Escape);
+    QWidget* const focused = desk_->widget(field.constData());
+    focused->setFocus();
+    ScriptedDialogs dialogs;
+    QTest::keyClick(focused, Qt::Key_Escape);
+    QVERIFY(!desk_->isOpen());
+  }
+
+  // By its frame, by a command of the main window, with the program.
+  void closingAsksBeforeTypingIsLost() {
+    desk_->openNew();
+    desk_->fillRequisition();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    QVERIFY(!OpenForms::unload(desk_->window()));
+    QVERIFY(desk_->isOpen());
+    QVERIFY(OpenForms::find("frmCadastro") != nullptr);
+    QCOMPARE(desk_->text("txtjustificativa"), "Compras miúdas");
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    QVERIFY(desk_->window()->close());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(OpenForms::find("frmCadastro") == nullptr);
+  }
+
+  void itsOwnCommandsCloseWithoutAsking_data() {
+    QTest::addColumn<QByteArray>("button");
+    for (const char* name : {"Command1_0", "cmdOk", "cmdImprimir"}) {
+      QTest::newRow(name) << QByteArray(name);
+    }
+  }
+  void itsOwnCommandsCloseWithoutAsking() {
+    QFETCH(QByteArray, button);
+    const test::PrintedReports printed;
+    desk_->openNew();
+    savedState();
+    desk_->type("txtjustificativa", "mais");
+    ScriptedDialogs dialogs;
+    desk_->click(button.constData());
     QVERIFY(!desk_->isOpen());
   }
 
  private:
-  static Box openAdvance() {
-    return {.text = "Há um adiantamento nesta finalidade já aberto !!!",
-            .title = "Aviso",
-            .icon = BoxIcon::Exclamation,
-            .buttons = {Button::Ok, Button::Cancel},
-            .defaultButton = Button::Cancel};
-  }
   static QString expected() {
     QFETCH(QString, enabled);
     return enabled;
@@ -438,6 +646,13 @@ class frmCadastroRequisicaoTest : public QObject {
       return {};
     }
     return QString::fromUtf8(file.readAll()).section("number=", 1).trimmed();
+  }
+  void saveAltered() {
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askAlteration(), Button::Yes);
+    dialogs.expectBox(boxes::altered());
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
   }
   void savedState() {
     desk_->fillRequisition();
@@ -463,6 +678,11 @@ class frmCadastroRequisicaoTest : public QObject {
       desk_->click("cmdnovo");
     } else {
       desk_->addEmpenho();
+      if (state == "two") {
+        desk_->office().run(
+            "INSERT INTO Adiantamento(EMPENHO, PROCESSO, ABERTURA, OP) VALUES (60014, 1214, "
+            "'2014-11-02 00:00:00', 5)");
+      }
       desk_->openProcess();
       if (state == "alterar") {
         test::ProcessDesk::clickRow(desk_->list("lstEmpenho"), 0);

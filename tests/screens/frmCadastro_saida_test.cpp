@@ -65,13 +65,22 @@ class frmCadastroSaidaTest : public QObject {
     QCOMPARE(rows, 1);
   }
 
+  void printsTheSlip_data() {
+    QTest::addColumn<QString>("setting");
+    QTest::addColumn<bool>("shownFirst");
+    QTest::newRow("shown first") << "1" << true;
+    QTest::newRow("printed at once") << "0" << false;
+  }
   void printsTheSlip() {
+    QFETCH(QString, setting);
+    Grava_ini("Requisicao", "valor2", setting, desk_->office().config());
     test::PrintedReports printed;
     openWith(765);
     close();
     QCOMPARE(printed.requests.size(), 1);
     const PedidoImpressao& request = printed.requests.first();
     QVERIFY(request.relatorio == Relatorio::Guia);
+    QTEST(request.exibe, "shownFirst");
     QCOMPARE(request.comando, QString());
     // 6266 days from 07/10/1997 to 03/12/2014, 235,00.
     QCOMPARE(request.campos, (QMap<QString, QString>{
@@ -102,6 +111,22 @@ class frmCadastroSaidaTest : public QObject {
     desk_->click("Command1_4");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QVERIFY(desk_->isOpen());
+  }
+
+  // The empenho is closed by then; only the window stays.
+  void aFailingSlipIsToldAndTheEmpenhoIsClosed() {
+    registra_impressao(Relatorio::Guia, [](const PedidoImpressao&) {
+      throw RuntimeError(ErrorNumber::PrinterFailure);
+    });
+    openWith(300);
+    ScriptedDialogs dialogs;
+    expectClosing(dialogs);
+    dialogs.expectBox(boxes::internalError(ErrorNumber::PrinterFailure, "Função imprimir"));
+    desk_->click("cmdEncerrar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+    QCOMPARE(desk_->text("cmdEncerrar"), QString("Reativar Empenho"));
+    QCOMPARE(desk_->office().ask("SELECT DEVOLUCAO FROM Adiantamento"), QString("7000000"));
   }
 
   void exportsTheNotes() {
@@ -141,6 +166,9 @@ class frmCadastroSaidaTest : public QObject {
   void withoutANameNothingIsExported() {
     openWith(300);
     ScriptedDialogs dialogs;
+    dialogs.expectSaveFile(request(), desk_->office().file("notas.txt"));
+    dialogs.expectBox(boxes::told("Exportado com sucesso!!"));
+    desk_->click("Command1_5");
     dialogs.expectSaveFile(request(), {});
     desk_->click("Command1_5");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
@@ -204,12 +232,15 @@ class frmCadastroSaidaTest : public QObject {
     desk_->openProcess();
     desk_->click("cmdPrestacao");
   }
-  void close() {
-    ScriptedDialogs dialogs;
+  static void expectClosing(ScriptedDialogs& dialogs) {
     dialogs.expectBox(test::informedQuestion("Deseja Encerrar o Adiantamento agora?"), Button::Yes);
     dialogs.expectBox({.text = "Empenho Encerrado!!!",
                        .title = "Finalizar Prestação de Contas",
                        .icon = BoxIcon::Information});
+  }
+  void close() {
+    ScriptedDialogs dialogs;
+    expectClosing(dialogs);
     desk_->click("cmdEncerrar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
   }

@@ -503,6 +503,21 @@ class frmReqAvulsoTest : public QObject {
     QVERIFY(!desk_->isOpen());
   }
 
+  // By its frame, by a command of the main window, with the program.
+  void closingAsksBeforeTypingIsLost() {
+    desk_->show();
+    desk_->fillRequisition();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    QVERIFY(!OpenForms::unload(desk_->window()));
+    QVERIFY(desk_->isOpen());
+    QCOMPARE(desk_->text("txtjustificativa"), QString("Compras miúdas"));
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    QVERIFY(OpenForms::unload(desk_->window()));
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(UmaJanela<frmReqAvulso>::aberta() == nullptr);
+  }
+
   void escapeWithNothingToLoseJustCloses_data() {
     QTest::addColumn<bool>("saved");
     QTest::newRow("nothing typed") << false;
@@ -525,6 +540,19 @@ class frmReqAvulsoTest : public QObject {
     desk_->widget("mskvalor")->setFocus();
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->focused(), QString("dtpdata"));
+    QCOMPARE(desk_->rows(), QString("0"));
+  }
+
+  // A letter of the keyboard presses the button without leaving the field.
+  void aDateTypedByHalfIsNotPassedOverByTheKeyboard() {
+    desk_->show();
+    desk_->fillRequisition();
+    desk_->type("dtpdata", "15");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Data inválida!!"));
+    desk_->mnemonic(Qt::Key_A);
+    QTRY_VERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->focused(), QString("dtpdata"));
     QCOMPARE(desk_->rows(), QString("0"));
   }
