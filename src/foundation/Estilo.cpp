@@ -93,10 +93,9 @@ void aplica(QApplication& aplicacao) {
   aplicacao.setStyleSheet(QString::fromLatin1(kFolha));
 }
 
-void prepara_janela(QWidget& janela) {
-  if (auto* const rotulo = janela.findChild<QLabel*>(QStringLiteral("lblMarca"))) {
-    rotulo->setPixmap(marca().pixmap(rotulo->minimumSize(), janela.devicePixelRatioF()));
-  }
+void mostra_marca(QLabel& rotulo) {
+  rotulo.setPixmap(
+      QApplication::windowIcon().pixmap(rotulo.minimumSize(), rotulo.devicePixelRatioF()));
 }
 
 void destaca(QPushButton& botao) {

@@ -6,6 +6,7 @@
 #include <QIcon>
 
 class QApplication;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QWidget;
@@ -21,9 +22,8 @@ inline constexpr QRgb kAmarelo = 0xFFFFFF00;   // the field that takes a passwor
 // Sets style, palette, font and style sheet for every window.
 void aplica(QApplication& aplicacao);
 
-// Makes `janela` one of the family: the program's icon, and the crest on the label `lblMarca` of
-// its band where it has one.
-void prepara_janela(QWidget& janela);
+// Puts the program's mark on a label, as large as its least size.
+void mostra_marca(QLabel& rotulo);
 
 // Marks the button that a window is there for.
 void destaca(QPushButton& botao);

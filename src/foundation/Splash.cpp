@@ -41,7 +41,7 @@ Splash::Splash()
       Timer2(relogio(this, QStringLiteral("Timer2"), 4000)),
       Timer3(relogio(this, QStringLiteral("Timer3"), 3000)) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
+  Estilo::mostra_marca(*ui_->lblMarca);
   setFixedSize(size().expandedTo(minimumSizeHint()));
   // The login window closes while only the splash is open; that must not end the program.
   setAttribute(Qt::WA_QuitOnClose);

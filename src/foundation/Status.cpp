@@ -1,6 +1,5 @@
 #include "foundation/Status.h"
 
-#include "foundation/Estilo.h"
 #include "foundation/UmaJanela.h"
 #include "foundation/ui_Status.h"
 #include "platform/dialogs/ToolkitDialogs.h"
@@ -20,7 +19,6 @@ Status::Status()
       Timer1(new QTimer(this)),
       Timer2(new QTimer(this)) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
   setFixedSize(size().expandedTo(minimumSizeHint()));
   Timer1->setObjectName(QStringLiteral("Timer1"));
   Timer1->setInterval(15);

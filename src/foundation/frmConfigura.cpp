@@ -49,7 +49,7 @@ constexpr std::array kMarcas{
 
 frmConfigura::frmConfigura() : ui_(std::make_unique<Ui::frmConfigura>()) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
+  Estilo::mostra_marca(*ui_->lblMarca);
   Estilo::destaca(*ui_->Command1);
   Estilo::esconde_senha(*ui_->txtSenha);
   ui_->txtSec->setFocus();

@@ -35,7 +35,7 @@ bool senha_confere(const QString& senha) {
 
 frmLogin::frmLogin() : ui_(std::make_unique<Ui::frmLogin>()) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
+  Estilo::mostra_marca(*ui_->lblMarca);
   Estilo::destaca(*ui_->cmdOk);
   Estilo::botao_de_escape(*ui_->cmdCancel);
   Estilo::esconde_senha(*ui_->txtPassword);

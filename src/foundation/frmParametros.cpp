@@ -35,7 +35,7 @@ void procura(QLineEdit& caixa, const QString& filtro) {
 
 frmParametros::frmParametros() : ui_(std::make_unique<Ui::frmParametros>()) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
+  Estilo::mostra_marca(*ui_->lblMarca);
   Estilo::destaca(*ui_->cmdGravar);
   Estilo::botao_de_escape(*ui_->cmdCancelar);
   ui_->Text1->setText(le(QStringLiteral("caminho")));

@@ -8,10 +8,10 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "foundation/Escape.h"
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
-#include "foundation/Escape.h"
 #include "masterdata/ItemCadastro.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/TwoPageTab.h"
@@ -70,7 +70,6 @@ TelaCadastro::TelaCadastro(QWidget& janela, QWidget& campos, QLineEdit& ordem,
       ordem_(ordem),
       passos_(std::move(passos)),
       obrigatorios_(aparencia.obrigatorios) {
-  Estilo::prepara_janela(janela);
   janela.setWindowFlag(Qt::WindowStaysOnTopHint);
   abas_ = new TwoPageTab(&janela);
   abas_->setObjectName(QStringLiteral("SSTab1"));

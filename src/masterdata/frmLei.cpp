@@ -2,10 +2,10 @@
 
 #include <QLineEdit>
 
+#include "foundation/Escape.h"
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
-#include "foundation/Escape.h"
 #include "masterdata/ItemCadastro.h"
 #include "masterdata/TelaCadastro.h"
 #include "masterdata/cInciso.h"
@@ -29,7 +29,6 @@ const QString kAviso = QStringLiteral("Aviso");
 
 frmLei::frmLei(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmLei>()) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
   Estilo::destaca(*ui_->Command3);
   setWindowFlag(Qt::WindowStaysOnTopHint);
   // A term such as 3 must not become the 30 of the list by itself.

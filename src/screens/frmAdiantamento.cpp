@@ -63,7 +63,6 @@ frmAdiantamento::frmAdiantamento(const ContextoEmpenho& contexto, QWidget* paren
       contexto_(contexto),
       novo_(AlteraEmpenho == 0) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
   Estilo::destaca(*ui_->Command1);
   // There is one page: nothing to choose, and the first field has the focus.
   ui_->SSTab1->tabBar()->setFocusPolicy(Qt::NoFocus);

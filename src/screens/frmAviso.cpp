@@ -4,7 +4,6 @@
 #include <QStyle>
 
 #include "foundation/Banco.h"
-#include "foundation/Estilo.h"
 #include "foundation/Leitura.h"
 #include "platform/controls/OpenForms.h"
 #include "platform/values/Convert.h"
@@ -33,7 +32,6 @@ void adiciona_vencendo(ListView& lista) {
 
 frmAviso::frmAviso(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmAviso>()) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
   ui_->Image1->setPixmap(style()
                              ->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this)
                              .pixmap(kIcone, devicePixelRatioF()));

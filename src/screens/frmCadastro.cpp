@@ -85,7 +85,6 @@ frmCadastro::~frmCadastro() {
 }
 
 void frmCadastro::prepara_tela() {
-  Estilo::prepara_janela(*this);
   Estilo::destaca(*ui_->cmdAplicar);
   ui_->fracadastro->prepara_numero(QStringLiteral("Processo"), QStringLiteral("####/##"));
   // One page is enabled at a time: there is nothing to choose, and the first field has the focus.

@@ -49,7 +49,6 @@ void localiza_processo(QString numero) {
 frmLocalizar::frmLocalizar(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmLocalizar>()) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
   Estilo::destaca(*ui_->Command1);
   ui_->Combo1->setCurrentIndex(kNome);
   ui_->Text1->setFocus();

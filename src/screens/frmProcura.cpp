@@ -2,7 +2,6 @@
 
 #include <QMap>
 
-#include "foundation/Estilo.h"
 #include "platform/controls/UpperCase.h"
 #include "records/cTodos.h"
 #include "ui_frmProcura.h"
@@ -51,7 +50,6 @@ void registra_procura(std::int16_t modo, RecebeEmpenho recebe) {
 
 frmProcura::frmProcura(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmProcura>()) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
   prepara_colunas(*ui_->ListView1);
   typeUpperCase(*ui_->txtprocura);
   connect(ui_->Command3, &QAbstractButton::clicked, this, &frmProcura::Command3_Click);

@@ -18,7 +18,6 @@ frmReqAvulso::frmReqAvulso(QWidget* parent)
       ui_(std::make_unique<Ui::frmReqAvulso>()),
       fechamento_(*this, [this] { return ui_->fracadastro->tem_digitacao(); }) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
   Estilo::destaca(*ui_->cmdAplicar);
   ui_->fracadastro->prepara_numero(QStringLiteral("Código"), {});
   connect(ui_->cmdAplicar, &QPushButton::clicked, this,

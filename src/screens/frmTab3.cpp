@@ -30,7 +30,6 @@ constexpr int kTipo = 2;
 
 frmTab3::frmTab3(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmTab3>()) {
   ui_->setupUi(this);
-  Estilo::prepara_janela(*this);
   ui_->txtmomento->setText(Format(Clock::today(), u"dd/MM/yyyy"));
   ui_->txthora->setText(Format(Clock::now(), u"HH:mm:ss"));
   mostra_aba(0);

@@ -109,7 +109,6 @@ frmOficce::frmOficce(QWidget* parent)
       barra_(new StatusBar(this)) {
   setObjectName(QStringLiteral("frmOficce"));
   setWindowTitle(QStringLiteral("Quartela 2014"));
-  Estilo::prepara_janela(*this);
   resize(QSize(1340, 690).boundedTo(screen()->availableSize()));
   setMinimumSize(640, 360);
   OpenForms::setMainWindow(this);

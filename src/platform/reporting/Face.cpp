@@ -54,16 +54,18 @@ Face::Face(const FontSpec& style)
     advance_[code] =
         static_cast<float>(metrics_.horizontalAdvance(QChar(static_cast<char16_t>(code))));
   }
+  cutSign_ = metrics_.horizontalAdvance(kCutSign);
 }
 
 double Face::width(QStringView text) const {
   double width = 0;
   QChar before;
   for (const QChar letter : text) {
-    if (letter.unicode() >= kTable || joinsLetters(before, letter)) {
+    const bool cutSign = letter == kCutSign;
+    if ((letter.unicode() >= kTable && !cutSign) || joinsLetters(before, letter)) {
       return metrics_.horizontalAdvance(text.toString());
     }
-    width += static_cast<double>(advance_[letter.unicode()]);
+    width += cutSign ? cutSign_ : static_cast<double>(advance_[letter.unicode()]);
     before = letter;
   }
   return width;

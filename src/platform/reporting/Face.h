@@ -14,6 +14,9 @@
 
 namespace quartela::reporting {
 
+// Stands where a text was cut.
+constexpr QChar kCutSign{u'\u2026'};
+
 class Face {
  public:
   // The face of the style, made at the first call and kept as long as the program. For the thread
@@ -38,6 +41,7 @@ class Face {
   double lineHeight_ = 0;
   double base_ = 0;
   std::array<float, kTable> advance_{};
+  double cutSign_ = 0;
 };
 
 }  // namespace quartela::reporting

@@ -25,18 +25,22 @@ class PagePainter {
         paintItem(item, page_.document().style(item.style));
       }
     }
+    paintLines();
   }
 
  private:
   void paintItem(const StoredItem& item, const ItemStyle& style) {
+    // Texts leave lines as they are; what covers them has to find them painted.
+    if (style.kind != ItemKind::Line &&
+        (style.kind != ItemKind::Text || style.backColor.isValid())) {
+      paintLines();
+    }
     switch (style.kind) {
       case ItemKind::Text:
         paintText(item, style);
         break;
       case ItemKind::Line:
-        usePen(style);
-        painter_.drawLine(QPointF(item.left, item.top),
-                          QPointF(item.left + item.width, item.top + item.height));
+        addLine(item, style);
         break;
       case ItemKind::Area:
         paintArea(item, style);
@@ -49,6 +53,30 @@ class PagePainter {
         paintBars(item, style);
         break;
     }
+  }
+
+  // Lines of one pen wait for each other: an engine takes much of its time for each call.
+  void addLine(const StoredItem& item, const ItemStyle& style) {
+    if (lineStyle_ != nullptr && !samePen(*lineStyle_, style)) {
+      paintLines();
+    }
+    lineStyle_ = &style;
+    lines_.append(
+        {QPointF(item.left, item.top), QPointF(item.left + item.width, item.top + item.height)});
+  }
+
+  void paintLines() {
+    if (lineStyle_ != nullptr) {
+      usePen(*lineStyle_);
+      painter_.drawLines(lines_);
+      lines_.clear();
+      lineStyle_ = nullptr;
+    }
+  }
+
+  static bool samePen(const ItemStyle& one, const ItemStyle& other) {
+    return one.color == other.color && one.lineWeight == other.lineWeight &&
+           one.lineStyle == other.lineStyle;
   }
 
   void paintArea(const StoredItem& item, const ItemStyle& style) {
@@ -121,7 +149,7 @@ class PagePainter {
 
   // The engines take their time for each change of pen and font: the same again is no change.
   void usePen(const ItemStyle& style) {
-    if (pen_ == &style) {
+    if (pen_ != nullptr && samePen(*pen_, style)) {
       return;
     }
     constexpr Qt::PenStyle kStyles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine};
@@ -153,6 +181,8 @@ class PagePainter {
   QPainter& painter_;
   const Page& page_;
   const ItemStyle* pen_ = nullptr;
+  const ItemStyle* lineStyle_ = nullptr;  // of the lines that wait
+  QList<QLineF> lines_;
   const Face* face_ = nullptr;
   QColor textColor_;
 };

@@ -26,7 +26,6 @@ struct FittedText {
 constexpr QChar kLineEnd{u'\n'};
 constexpr QChar kSoftBreak{u'\v'};
 constexpr QChar kWordBreak{u'\f'};
-constexpr QChar kCutSign{u'\u2026'};
 
 // The lines that the box has place for, one at the least; a line that is too wide, and the last
 // line when there were more, end with the cut sign. An empty text has no line.
