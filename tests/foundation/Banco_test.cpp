@@ -4,7 +4,7 @@
 
 #include <QDir>
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/Ini.h"
 #include "foundation/Splash.h"

@@ -1,7 +1,7 @@
 // The two boxes in which failures reach the operator, and the trap that leads to one of them.
 #include "foundation/Erros.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"

@@ -4,7 +4,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QtTest>
+#include <QTest>
 
 #include "tests/support/Typing.h"
 

@@ -1,7 +1,7 @@
 // An operator at the main window's ribbon.
 #pragma once
 
-#include <QtTest>
+#include <QTest>
 
 #include "shell/frmOficce.h"
 #include "shell/ribbon/FaixaRibbon.h"

@@ -2,7 +2,7 @@
 #include "masterdata/Cpf.h"
 
 #include <QLabel>
-#include <QtTest>
+#include <QTest>
 
 #include "platform/controls/MaskedBox.h"
 #include "tests/support/TestMain.h"

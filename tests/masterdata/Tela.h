@@ -8,7 +8,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QtTest>
+#include <QTest>
 
 #include "platform/controls/ComboBox.h"
 #include "platform/controls/ListView.h"

@@ -2,8 +2,8 @@
 // work leaves every acknowledged requisition whole, and nothing half.
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QTest>
 #include <QThread>
-#include <QtTest>
 
 #include "foundation/Banco.h"
 #include "tests/records/durability/SavedRequisition.h"

@@ -3,7 +3,7 @@
 
 #include <QFile>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/Ini.h"
 #include "platform/values/Clock.h"

@@ -2,7 +2,7 @@
 // closing, reopening, the summary.
 #include "records/cAdiantamento.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/Banco.h"
 #include "platform/controls/ListView.h"

@@ -1,7 +1,7 @@
 // The notes of an empenho on a real database.
 #include "records/cPrestContas.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/Banco.h"
 #include "platform/controls/ListView.h"

@@ -2,7 +2,7 @@
 // gives, altering, and what fails.
 #include "records/cReqAvulso.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/Banco.h"
 #include "platform/values/RuntimeError.h"

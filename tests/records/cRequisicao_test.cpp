@@ -4,7 +4,7 @@
 
 #include <sqlite3.h>
 
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/Banco.h"
 #include "platform/controls/ScreenPointer.h"

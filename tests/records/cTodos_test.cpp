@@ -1,7 +1,7 @@
 // The lists of processes: which rows each filter shows, in which order, and how a row looks.
 #include "records/cTodos.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/Banco.h"
 #include "platform/controls/ListView.h"

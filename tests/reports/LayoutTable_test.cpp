@@ -1,7 +1,7 @@
 // The checks of layouts and pages find what they are there for.
 #include "tests/reports/LayoutTable.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include "tests/platform/reporting/SampleReport.h"
 #include "tests/support/TestMain.h"

@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/UmaJanela.h"
 #include "platform/controls/ComboBox.h"

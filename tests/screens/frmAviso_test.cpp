@@ -3,7 +3,7 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/Banco.h"
 #include "platform/controls/ListView.h"

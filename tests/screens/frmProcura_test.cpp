@@ -4,7 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QtTest>
+#include <QTest>
 
 #include "platform/controls/ListView.h"
 #include "tests/support/ScriptedDialogs.h"

@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
-#include <QtTest>
+#include <QTest>
 
 #include "foundation/Banco.h"
 #include "foundation/Ini.h"
@@ -151,16 +151,26 @@ class frmOficceTest : public QObject {
   void buttonsOpenAndCloseTheirWindows_data() {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("name");
-    QTest::newRow("0") << "0" << "frmCadastro";
-    QTest::newRow("1") << "1" << "frmCadastro";
-    QTest::newRow("4") << "4" << "frmLocalizar";
-    QTest::newRow("6") << "6" << "frmReqAvulso";
-    QTest::newRow("9") << "9" << "frmExecutor";
-    QTest::newRow("10") << "10" << "frmTomador";
-    QTest::newRow("11") << "11" << "frmTipos";
-    QTest::newRow("12") << "12" << "frmTipoDespesa";
-    QTest::newRow("13") << "13" << "frmDotacao";
-    QTest::newRow("25") << "25" << "frmOrgao";
+    QTest::newRow("0") << "0"
+                       << "frmCadastro";
+    QTest::newRow("1") << "1"
+                       << "frmCadastro";
+    QTest::newRow("4") << "4"
+                       << "frmLocalizar";
+    QTest::newRow("6") << "6"
+                       << "frmReqAvulso";
+    QTest::newRow("9") << "9"
+                       << "frmExecutor";
+    QTest::newRow("10") << "10"
+                        << "frmTomador";
+    QTest::newRow("11") << "11"
+                        << "frmTipos";
+    QTest::newRow("12") << "12"
+                        << "frmTipoDespesa";
+    QTest::newRow("13") << "13"
+                        << "frmDotacao";
+    QTest::newRow("25") << "25"
+                        << "frmOrgao";
   }
   void buttonsOpenAndCloseTheirWindows() {
     QFETCH(QString, key);
@@ -373,7 +383,8 @@ class frmOficceTest : public QObject {
   }
 
  private:
-  // What the process screen needs of a process to show it: a type of its secretariat, an allocation.
+  // What the process screen needs of a process to show it: a type of its secretariat, an
+  // allocation.
   void completeTheProcesses() const {
     office_->run(
         "UPDATE Tipos SET IDORGAO = 2;"

@@ -1,7 +1,7 @@
 #include "tests/support/FreshFolder.h"
 
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 #include "platform/files/ProgramFolder.h"
 

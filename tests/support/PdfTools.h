@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <QString>
 #include <QStringList>
-#include <QtTest>
+#include <QTest>
 
 namespace quartela::test {
 

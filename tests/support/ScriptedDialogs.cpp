@@ -1,7 +1,7 @@
 #include "tests/support/ScriptedDialogs.h"
 
 #include <QPrinter>
-#include <QtTest>
+#include <QTest>
 #include <utility>
 
 #include "platform/dialogs/ToolkitDialogs.h"

@@ -3,7 +3,8 @@
 #pragma once
 
 #include <QApplication>
-#include <QtTest>
+#include <QSignalSpy>
+#include <QTest>
 
 namespace quartela::test {
 
@@ -21,7 +22,7 @@ int run(int argc, char** argv) {
 
 }  // namespace quartela::test
 
-#define QUARTELA_TEST_MAIN(TestClass)                    \
-  int main(int argc, char** argv) {                      \
-    return quartela::test::run<TestClass>(argc, argv);   \
+#define QUARTELA_TEST_MAIN(TestClass)                  \
+  int main(int argc, char** argv) {                    \
+    return quartela::test::run<TestClass>(argc, argv); \
   }

@@ -10,8 +10,8 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTabWidget>
+#include <QTest>
 #include <QToolButton>
-#include <QtTest>
 
 namespace quartela::test {
 namespace {

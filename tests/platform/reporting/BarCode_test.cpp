@@ -3,7 +3,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include "platform/reporting/Output.h"
 #include "platform/reporting/Report.h"

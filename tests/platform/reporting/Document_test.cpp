@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include "platform/reporting/PagePainter.h"
 #include "platform/reporting/Report.h"

@@ -1,4 +1,4 @@
-#include <QtTest>
+#include <QTest>
 
 #include "platform/reporting/Report.h"
 #include "platform/values/Convert.h"

@@ -2,7 +2,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include "platform/values/RuntimeError.h"
 #include "tests/platform/reporting/SampleReport.h"

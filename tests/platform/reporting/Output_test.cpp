@@ -11,7 +11,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include "tests/platform/reporting/SampleReport.h"
 #include "tests/support/TestMain.h"

@@ -1,4 +1,4 @@
-#include <QtTest>
+#include <QTest>
 
 #include "platform/reporting/Block.h"
 #include "platform/reporting/Report.h"

@@ -10,9 +10,9 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStatusBar>
+#include <QTest>
 #include <QToolButton>
 #include <QWheelEvent>
-#include <QtTest>
 
 #include "platform/reporting/PagePainter.h"
 #include "tests/platform/reporting/SampleReport.h"

@@ -1,6 +1,6 @@
 #include "platform/reporting/Report.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include "platform/database/Recordset.h"
 #include "tests/platform/reporting/SampleReport.h"

@@ -5,7 +5,7 @@
 
 #include <QString>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 #include <memory>
 
 #include "database/Builder.h"

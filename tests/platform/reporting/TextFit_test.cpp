@@ -1,7 +1,7 @@
 #include "platform/reporting/TextFit.h"
 
 #include <QFontMetricsF>
-#include <QtTest>
+#include <QTest>
 #include <cmath>
 
 #include "tests/support/TestMain.h"

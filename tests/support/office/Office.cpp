@@ -3,7 +3,7 @@
 #include <sqlite3.h>
 
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 #include "database/Builder.h"
 #include "demonstration/DataMaker.h"
