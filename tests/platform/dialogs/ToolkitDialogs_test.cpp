@@ -32,13 +32,13 @@ namespace Dialogs = quartela::Dialogs;
 
 namespace {
 
-// Works the next modal window as soon as there is one.
+// Works the next modal window as soon as there is one and it has the keyboard.
 class Operator : public QObject {
  public:
   explicit Operator(std::function<void(QWidget*)> work) : work_(std::move(work)) {
     connect(&timer_, &QTimer::timeout, this, [this] {
       QWidget* const dialog = QApplication::activeModalWidget();
-      if (dialog && dialog->isVisible()) {
+      if (dialog && dialog->isVisible() && dialog->isActiveWindow()) {
         timer_.stop();
         ++worked;
         const QPointer<QWidget> guard(dialog);
