@@ -86,6 +86,9 @@ bool Aplicacao::eventFilter(QObject* objeto, QEvent* evento) {
     return true;
   }
   if (QAbstractButton* const botao = botao_da_tecla(objeto, *evento)) {
+    if (botao->focusPolicy() != Qt::NoFocus) {
+      botao->setFocus(Qt::ShortcutFocusReason);
+    }
     botao->click();
     return true;
   }

@@ -214,6 +214,25 @@ class Aplicacao_test : public QObject {
     QCOMPARE(date.text(), QString("21"));
   }
 
+  void aButtonsKeyFinishesTheFieldFirst() {
+    QWidget window;
+    QVBoxLayout layout(&window);
+    QLineEdit date;
+    QPushButton save("&Gravar");
+    layout.addWidget(&date);
+    layout.addWidget(&save);
+    QStringList events;
+    connect(&date, &QLineEdit::editingFinished, &save, [&events] { events << "finished"; });
+    connect(&save, &QPushButton::clicked, &save, [&events] { events << "clicked"; });
+    window.show();
+    window.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &window);
+    date.setFocus();
+    QTest::keyClicks(&date, "21");
+    QTest::keyClick(&date, Qt::Key_G, Qt::AltModifier);
+    QCOMPARE(events, QStringList({"finished", "clicked"}));
+  }
+
   void theKeyOfADisabledButtonTypesNothing() {
     QWidget window;
     QVBoxLayout layout(&window);
