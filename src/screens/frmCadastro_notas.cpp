@@ -131,8 +131,6 @@ void frmCadastro::Alterar() {
 }
 
 void frmCadastro::Gravar() {
-  // The document that is still being typed gets its capitals first.
-  Command1[2]->setFocus();
   Sob_trava(QStringLiteral("Função Save_reg"), [this] {
     if (nota_aceita()) {
       grava_nota();

@@ -37,8 +37,6 @@ void frmCadastro::Carrega_dados() {
 }
 
 void frmCadastro::cmdAplicar_Click() {
-  // A date that is still being typed is taken or refused first.
-  ui_->cmdAplicar->setFocus();
   if (!ui_->fracadastro->completo() || !aceita_outro_aberto()) {
     return;
   }

@@ -41,8 +41,6 @@ void frmReqAvulso::Form_Load() {
 
 // The mode is the one in which the process screen was opened last.
 void frmReqAvulso::cmdAplicar_Click() {
-  // A date that is still being typed is taken or refused first.
-  ui_->cmdAplicar->setFocus();
   QuadroRequisicao& quadro = *ui_->fracadastro;
   if (!quadro.completo()) {
     return;

@@ -162,6 +162,19 @@ inline Box warning(const QString& text) {
   return {.text = text, .title = QStringLiteral("Aviso"), .icon = BoxIcon::Exclamation};
 }
 
+inline Box fieldsMissing() {
+  return warning(QStringLiteral("Todos os campos obrigatórios devem ser preenchidos!!"));
+}
+
+// A row for each field that a requisition must have, with its name as the column "field".
+inline void addRequiredFieldRows() {
+  QTest::addColumn<QByteArray>("field");
+  for (const char* name : {"cmbOrgao", "cmbOrdenador", "cmbResponsavel", "cmbTipo", "cmbficha",
+                           "mskvalor", "txtjustificativa"}) {
+    QTest::newRow(name) << QByteArray(name);
+  }
+}
+
 inline Box stopped(const QString& text) {
   return {.text = text, .title = QStringLiteral("Aviso"), .icon = BoxIcon::Stop};
 }

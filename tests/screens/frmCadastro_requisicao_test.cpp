@@ -198,20 +198,14 @@ class frmCadastroRequisicaoTest : public QObject {
     QCOMPARE(desk_->items("cmbOrdenador"), QStringList({"Ana Lima", "Beto Reis"}));
   }
 
-  void asksForEveryRequiredField_data() {
-    QTest::addColumn<QByteArray>("field");
-    for (const char* name : {"cmbOrgao", "cmbOrdenador", "cmbResponsavel", "cmbTipo", "cmbficha",
-                             "mskvalor", "txtjustificativa"}) {
-      QTest::newRow(name) << QByteArray(name);
-    }
-  }
+  void asksForEveryRequiredField_data() { test::addRequiredFieldRows(); }
   void asksForEveryRequiredField() {
     QFETCH(QByteArray, field);
     desk_->openNew();
     desk_->fillRequisition();
     desk_->empty(field.constData());
     ScriptedDialogs dialogs;
-    dialogs.expectBox(test::warning("Todos os campos obrigatórios devem ser preenchidos!!"));
+    dialogs.expectBox(test::fieldsMissing());
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->focused(), QString::fromLatin1(field));
@@ -221,7 +215,7 @@ class frmCadastroRequisicaoTest : public QObject {
   void focusesTheLastOfSeveralEmptyFields() {
     desk_->openNew();
     ScriptedDialogs dialogs;
-    dialogs.expectBox(test::warning("Todos os campos obrigatórios devem ser preenchidos!!"));
+    dialogs.expectBox(test::fieldsMissing());
     desk_->click("cmdAplicar");
     QCOMPARE(desk_->focused(), "txtjustificativa");
   }

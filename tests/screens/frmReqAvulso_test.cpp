@@ -55,10 +55,6 @@ class AvulsoDesk : public test::RequisitionHands<frmReqAvulso> {
   test::Office office_;
 };
 
-Box fieldsMissing() {
-  return test::warning(QStringLiteral("Todos os campos obrigatórios devem ser preenchidos!!"));
-}
-
 }  // namespace
 
 class frmReqAvulsoTest : public QObject {
@@ -205,20 +201,14 @@ class frmReqAvulsoTest : public QObject {
     QCOMPARE(desk_->items("cmbficha"), QStringList());
   }
 
-  void asksForEveryRequiredField_data() {
-    QTest::addColumn<QByteArray>("field");
-    for (const char* name : {"cmbOrgao", "cmbOrdenador", "cmbResponsavel", "cmbTipo", "cmbficha",
-                             "mskvalor", "txtjustificativa"}) {
-      QTest::newRow(name) << QByteArray(name);
-    }
-  }
+  void asksForEveryRequiredField_data() { test::addRequiredFieldRows(); }
   void asksForEveryRequiredField() {
     QFETCH(QByteArray, field);
     desk_->show();
     desk_->fillRequisition();
     desk_->empty(field.constData());
     ScriptedDialogs dialogs;
-    dialogs.expectBox(fieldsMissing());
+    dialogs.expectBox(test::fieldsMissing());
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->focused(), QString::fromLatin1(field));
@@ -229,12 +219,12 @@ class frmReqAvulsoTest : public QObject {
   void focusesTheLastOfSeveralEmptyFields() {
     desk_->show();
     ScriptedDialogs dialogs;
-    dialogs.expectBox(fieldsMissing());
+    dialogs.expectBox(test::fieldsMissing());
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->focused(), QString("txtjustificativa"));
     desk_->type("txtjustificativa", "Algo");
-    dialogs.expectBox(fieldsMissing());
+    dialogs.expectBox(test::fieldsMissing());
     desk_->click("cmdAplicar");
     QCOMPARE(desk_->focused(), QString("mskvalor"));
   }
