@@ -12,7 +12,11 @@ option(QUARTELA_TIDY "Run clang-tidy on every file that is compiled" OFF)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+  # Without these words ccache takes nothing that is compiled with a precompiled header.
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+      "CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime"
+      "${CCACHE_PROGRAM}")
+  add_compile_options(-fpch-preprocess)
 endif()
 
 find_program(MOLD_PROGRAM mold)

@@ -10,6 +10,7 @@
 #include "database/RowWriter.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/database/PlainDatabase.h"
+#include "tests/support/Folders.h"
 #include "tests/support/TestMain.h"
 
 namespace quartela::test {
@@ -31,7 +32,7 @@ QByteArray fileText(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-const QString kFolder = QStringLiteral(QUARTELA_SOURCE_DIR "/database/");
+const QString kFolder = quartela::test::inSource(QStringLiteral("database/"));
 
 }  // namespace
 

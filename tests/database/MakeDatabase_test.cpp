@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "tests/database/PlainDatabase.h"
+#include "tests/support/Folders.h"
 #include "tests/support/TestMain.h"
 
 namespace quartela::test {
@@ -39,7 +40,7 @@ void MakeDatabaseTest::init() {
 
 int MakeDatabaseTest::run(const QStringList& arguments) {
   QProcess process;
-  process.start(QStringLiteral(QUARTELA_BINARY_DIR "/bin/make_database"), arguments);
+  process.start(quartela::test::inBuild(QStringLiteral("bin/make_database")), arguments);
   process.waitForFinished();
   printed_ = QString::fromUtf8(process.readAllStandardOutput());
   errors_ = QString::fromUtf8(process.readAllStandardError());

@@ -8,6 +8,7 @@
 #include "foundation/Estilo.h"
 #include "foundation/UmaJanela.h"
 #include "platform/controls/AviPlayer.h"
+#include "tests/support/Folders.h"
 #include "tests/support/FreshFolder.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowChecks.h"
@@ -143,7 +144,7 @@ class Status_test : public QObject {
 
  private:
   static QByteArray delivered() {
-    QFile file(QStringLiteral(QUARTELA_SOURCE_DIR "/resources/delivery/FILEDELR.avi"));
+    QFile file(quartela::test::inSource(QStringLiteral("resources/delivery/FILEDELR.avi")));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
 

@@ -10,6 +10,7 @@
 #include "shell/frmOficce.h"
 #include "tests/journeys/Previews.h"
 #include "tests/journeys/ProcessKeys.h"
+#include "tests/support/Folders.h"
 #include "tests/support/PdfTools.h"
 #include "tests/support/office/OfficeMain.h"
 
@@ -50,7 +51,7 @@ class AlertWatch : public QObject {
 
 // Where the documents of this road stay, to be looked at.
 QString paper(const char* name) {
-  const QDir folder(QStringLiteral(QUARTELA_BINARY_DIR "/papers"));
+  const QDir folder(quartela::test::inBuild(QStringLiteral("papers")));
   folder.mkpath(QStringLiteral("."));
   return folder.filePath(QLatin1String(name));
 }

@@ -17,6 +17,7 @@
 #include "screens/frmLocalizar.h"
 #include "shell/frmOficce.h"
 #include "tests/journeys/Ribbon.h"
+#include "tests/support/Folders.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/office/Boxes.h"
 #include "tests/support/office/Office.h"
@@ -35,9 +36,9 @@ class MainWindowJourney : public QObject {
  private slots:
   void aMorning() {
     test::Office office(test::Data::Demonstration);
-    QVERIFY(QFile::copy(QStringLiteral(QUARTELA_SOURCE_DIR "/resources/delivery/progress.gif"),
+    QVERIFY(QFile::copy(quartela::test::inSource(QStringLiteral("resources/delivery/progress.gif")),
                         office.file(QStringLiteral("progress.gif"))));
-    QVERIFY(QFile::copy(QStringLiteral(QUARTELA_SOURCE_DIR "/resources/delivery/FILEDELR.avi"),
+    QVERIFY(QFile::copy(quartela::test::inSource(QStringLiteral("resources/delivery/FILEDELR.avi")),
                         office.file(QStringLiteral("FILEDELR.avi"))));
     Fecha_banco();
     Splash::registra_principal([] { UmaJanela<frmOficce>::mostra(); });

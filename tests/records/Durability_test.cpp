@@ -7,6 +7,7 @@
 
 #include "foundation/Banco.h"
 #include "tests/records/durability/SavedRequisition.h"
+#include "tests/support/Folders.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/office/Office.h"
 
@@ -22,7 +23,7 @@ constexpr int kMostMicroseconds = 3'000;
 // Gives the last number acknowledged, or -1 when the child ended by itself.
 std::int32_t saveAndKill(const QString& database, std::int32_t first, QRandomGenerator& random) {
   QProcess child;
-  child.start(QStringLiteral(QUARTELA_BINARY_DIR "/tests/save_requisitions"),
+  child.start(quartela::test::inBuild(QStringLiteral("tests/save_requisitions")),
               {database, QString::number(first)});
   const int saves = random.bounded(1, kMostSaves);
   QByteArray printed;

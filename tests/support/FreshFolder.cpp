@@ -1,4 +1,5 @@
 #include "tests/support/FreshFolder.h"
+#include "tests/support/Folders.h"
 
 #include <QFile>
 #include <QTest>
@@ -27,7 +28,7 @@ void FreshFolder::write(const QString& name, const QByteArray& bytes) const {
 }
 
 void FreshFolder::deliver(const QString& name) const {
-  const QString source = QStringLiteral(QUARTELA_SOURCE_DIR "/resources/delivery/") + name;
+  const QString source = inSource(QStringLiteral("resources/delivery/")) + name;
   QVERIFY2(QFile::copy(source, path(name)), qUtf8Printable(source));
 }
 

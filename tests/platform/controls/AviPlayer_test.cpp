@@ -8,6 +8,7 @@
 
 #include "platform/controls/AviFile.h"
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Folders.h"
 #include "tests/support/TestMain.h"
 
 using quartela::AviFile;
@@ -106,7 +107,7 @@ int errorOf(const QByteArray& bytes) {
 }
 
 QByteArray delivered() {
-  QFile file(QStringLiteral(QUARTELA_SOURCE_DIR "/resources/delivery/FILEDELR.avi"));
+  QFile file(quartela::test::inSource(QStringLiteral("resources/delivery/FILEDELR.avi")));
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
