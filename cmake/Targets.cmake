@@ -72,10 +72,21 @@ function(quartela_compile_quickly target)
   endif()
 endfunction()
 
+# quartela_test_on_desktop(test): the CTest test of that name runs once more, as `test`.desktop, in real
+# windows: under the X platform, on a display of its own with a window manager.
+function(quartela_test_on_desktop test)
+  add_test(NAME "${test}.desktop"
+    COMMAND ${Python3_EXECUTABLE} "${PROJECT_SOURCE_DIR}/tests/support/on_a_desktop.py"
+            $<TARGET_FILE:test.${test}>)
+  set_tests_properties("${test}.desktop" PROPERTIES
+    TIMEOUT 600
+    ENVIRONMENT "${QUARTELA_TEST_ENVIRONMENT}")
+endfunction()
+
 # quartela_tests(LINKS ...): every *_test.cpp of the current folder becomes one executable and one
-# CTest test, named after its path below tests/.
+# CTest test, named after its path below tests/. ON_DESKTOP: and a second one in real windows.
 function(quartela_tests)
-  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "ON_DESKTOP" "" "LINKS" ${ARGN})
   file(GLOB tests CONFIGURE_DEPENDS "*_test.cpp")
   file(RELATIVE_PATH folder "${PROJECT_SOURCE_DIR}/tests" "${CMAKE_CURRENT_SOURCE_DIR}")
   string(REPLACE "/" "." prefix "${folder}")
@@ -93,5 +104,8 @@ function(quartela_tests)
     set_tests_properties("${prefix}.${stem}" PROPERTIES
       TIMEOUT 600
       ENVIRONMENT "${QUARTELA_TEST_ENVIRONMENT}")
+    if(ARG_ON_DESKTOP)
+      quartela_test_on_desktop("${prefix}.${stem}")
+    endif()
   endforeach()
 endfunction()

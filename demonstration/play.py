@@ -14,7 +14,7 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
-from desktop import Display, require_tools, rows, wait  # noqa: E402
+from desktop import Display, require_tools, rows  # noqa: E402
 
 SOURCE = Path(__file__).resolve().parents[1]
 PROCESSES = 150  # small enough that the year's numbers stay four digits that every screen can open
@@ -82,7 +82,7 @@ class Play:
         """Answers the box of that title."""
         box = self.display.focus(title)
         self.keys(key)
-        wait(lambda: box not in self.display.windows(title), f"the box {title!r} to close")
+        self.display.wait(lambda: box not in self.display.windows(title), f"the box {title!r} to close")
 
     def choose(self, place):
         """Takes an entry of the list that has the keyboard, 0 the first, and goes on."""
@@ -139,7 +139,7 @@ class Play:
         path = self.pictures / f"{DOCUMENTS[title]}.pdf"
         self.type(str(path))
         self.keys("Return")
-        wait(path.exists, f"the document {path.name}")
+        self.display.wait(path.exists, f"the document {path.name}")
         self.display.no_window("Salvar como PDF")
         self.display.focus(title)
         self.keys("Escape")
@@ -233,7 +233,7 @@ class Play:
 
 
 def play(display, program, pictures):
-    started = subprocess.Popen([str(program / "quartela")], env=display.environment)
+    started = display.start(program / "quartela")
     try:
         scene = Play(display, program, pictures)
         scene.log_in()
@@ -242,13 +242,10 @@ def play(display, program, pictures):
         scene.type_notes()
         scene.close()
         scene.leave()
-        if started.wait(60) != 0:
-            raise SystemExit(f"the program ended with {started.returncode}")
+        display.finish(started)
     except SystemExit:
         display.picture(pictures / STOPPED)
         raise
-    finally:
-        started.kill()
     scene.check()
 
 

@@ -13,7 +13,7 @@ from pathlib import Path
 SOURCE = Path(__file__).resolve().parents[3]
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(SOURCE / "demonstration"))
-from desktop import TIMEOUT, Display, require_tools, rows  # noqa: E402
+from desktop import Display, require_tools, rows  # noqa: E402
 
 
 def log_in(display):
@@ -49,29 +49,25 @@ def play(display, folder, pictures):
     victim = rows(database, "SELECT max(SEQ) FROM Requisicao WHERE SEQ % 100 = "
                             "(SELECT SEQ % 100 FROM Requisicao ORDER BY DATA DESC LIMIT 1)")[0]
     before = rows(database, "SELECT count(*) FROM Requisicao")[0]
-    program = subprocess.Popen([str(folder / "quartela")], env=display.environment)
-    try:
-        log_in(display)
-        main = display.window("Quartela 2014")
-        display.focus("A L E R T A")
-        picture("1-alert")
-        display.key("Return")
-        display.no_window("A L E R T A")
-        for x in (438, 508, 571, 626, 677):
-            display.click(main, x - 43, 105 - 51)
-            time.sleep(0.4)
-        picture("2-filters")
-        display.click(main, 365 - 43, 105 - 51)
-        find_by_number(display, f"{victim // 100:04}/{victim % 100:02}")
-        picture("3-found")
-        delete_first_row(display, main)
-        picture("4-deleted")
-        display.focus("Quartela 2014")
-        display.key("alt+F4")
-        if program.wait(TIMEOUT) != 0:
-            raise SystemExit(f"the program ended with {program.returncode}")
-    finally:
-        program.kill()
+    program = display.start(folder / "quartela")
+    log_in(display)
+    main = display.window("Quartela 2014")
+    display.focus("A L E R T A")
+    picture("1-alert")
+    display.key("Return")
+    display.no_window("A L E R T A")
+    for x in (438, 508, 571, 626, 677):
+        display.click(main, x - 43, 105 - 51)
+        time.sleep(0.4)
+    picture("2-filters")
+    display.click(main, 365 - 43, 105 - 51)
+    find_by_number(display, f"{victim // 100:04}/{victim % 100:02}")
+    picture("3-found")
+    delete_first_row(display, main)
+    picture("4-deleted")
+    display.focus("Quartela 2014")
+    display.key("alt+F4")
+    display.finish(program)
     gone = rows(database, f"SELECT count(*) FROM Requisicao WHERE SEQ = {victim}")[0] == 0
     after = rows(database, "SELECT count(*) FROM Requisicao")[0]
     if not gone or after != before - 1:
