@@ -373,14 +373,11 @@ class ToolkitDialogs_test : public QObject {
     QCOMPARE(person.worked, 1);
   }
 
- private:
-  quartela::DialogHost* before_ = nullptr;
-
   void aPrinterIsChosenOrNot_data() {
     QTest::addColumn<QString>("pressed");
     QTest::addColumn<bool>("chosen");
-    QTest::newRow("chosen") << "Print" << true;
-    QTest::newRow("given up") << "Cancel" << false;
+    QTest::newRow("chosen") << "Imprimir" << true;
+    QTest::newRow("given up") << "Cancelar" << false;
   }
 
   void aPrinterIsChosenOrNot() {
@@ -397,6 +394,9 @@ class ToolkitDialogs_test : public QObject {
     QCOMPARE(clerk.worked, 1);
     QCOMPARE(printer.outputFileName(), folder.filePath("pages.pdf"));
   }
+
+ private:
+  quartela::DialogHost* before_ = nullptr;
 };
 
 QUARTELA_TEST_MAIN(ToolkitDialogs_test)
