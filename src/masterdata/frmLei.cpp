@@ -43,7 +43,10 @@ frmLei::frmLei(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmL
   ui_->ListView1->setFocus();
 }
 
-frmLei::~frmLei() = default;
+// The field that loses the focus still reports to this window, not to what is left of it.
+frmLei::~frmLei() {
+  hide();
+}
 
 void frmLei::monta_lista() {
   ListView& lista = *ui_->ListView1;
@@ -66,6 +69,7 @@ void frmLei::monta_lista() {
 void frmLei::liga() {
   connect(ui_->Combo1, &ComboBox::dropDown, this, &frmLei::Combo1_DropDown);
   connect(ui_->Combo1, &ComboBox::picked, this, &frmLei::Combo1_Click);
+  connect(ui_->Combo1->lineEdit(), &QLineEdit::editingFinished, this, &frmLei::Combo1_LostFocus);
   connect(ui_->Command1_3, &QPushButton::clicked, this, &frmLei::inclui);
   connect(ui_->Command1_1, &QPushButton::clicked, this, &frmLei::altera);
   connect(ui_->Command1_0, &QPushButton::clicked, this, &frmLei::cancela);
@@ -76,13 +80,32 @@ void frmLei::liga() {
   Ao_escapar(*this, [this] { escapa(); });
 }
 
+// The list opens on the type whose key is shown, not on the first one of its name.
 void frmLei::Combo1_DropDown() {
+  const QString digitado = ui_->Combo1->text();
   Carrega_Controles(*ui_->Combo1, QStringLiteral("Tipos"), QStringLiteral("TIPO"),
                     QStringLiteral("SEQUENCIA"), kTodos);
+  if (ui_->Text3->text().isEmpty()) {
+    ui_->Combo1->setText(digitado);
+    return;
+  }
+  ui_->Combo1->setCurrentIndex(ui_->Combo1->findKey(Convert::toI32(ui_->Text3->text())));
+  if (ui_->Combo1->listIndex() < 0) {
+    ui_->Combo1->setText(tipo_);
+  }
+  tipo_ = ui_->Combo1->text();
 }
 
 void frmLei::Combo1_Click(int indice) {
   ui_->Text3->setText(Format(ui_->Combo1->itemDataAt(indice), u"000"));
+  tipo_ = ui_->Combo1->text();
+}
+
+// Typing is no choice: several types may bear one name.
+void frmLei::Combo1_LostFocus() {
+  if (!ui_->Text3->text().isEmpty() && ui_->Combo1->text() != tipo_) {
+    ui_->Combo1->setText(tipo_);
+  }
 }
 
 // Category, term and tick stay from the row seen before.
@@ -102,7 +125,8 @@ void frmLei::altera() {
   const QString tipo = item_->coluna(1);
   ui_->Text1->setText(item_->Tag());
   ui_->Text3->setText(tipo.left(kDigitosChave));
-  ui_->Combo1->setText(tipo.mid(kInicioNome, kTamanhoNome));
+  tipo_ = tipo.mid(kInicioNome, kTamanhoNome);
+  ui_->Combo1->setText(tipo_);
   ui_->Text2->setPlainText(item_->coluna(2));
   ui_->Text4->setText(item_->coluna(3));
   ui_->Combo4->setText(item_->coluna(4).left(kDigitosPrazo));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QString>
 #include <cstdint>
 #include <memory>
 
@@ -25,6 +26,8 @@ class frmLei : public QDialog {
 
   void Combo1_DropDown();
   void Combo1_Click(int indice);
+  // Shows the name of the key again when another one was typed over it.
+  void Combo1_LostFocus();
   void inclui();
   void altera();
   void cancela();
@@ -38,6 +41,7 @@ class frmLei : public QDialog {
 
   std::unique_ptr<Ui::frmLei> ui_;
   ItemCadastro* item_ = nullptr;
+  QString tipo_;  // the name that belongs to the key shown
 };
 
 }  // namespace quartela

@@ -1,6 +1,8 @@
 // The legal clauses: one page, whose enabled controls tell what is being done.
 #include "masterdata/frmLei.h"
 
+#include <QAbstractItemView>
+
 #include "foundation/Banco.h"
 #include "masterdata/cInciso.h"
 #include "tests/masterdata/Tela.h"
@@ -252,6 +254,62 @@ class frmLeiTest : public QObject {
     QCOMPARE(types.count(), 3);
   }
 
+  // Types of one name stand in every secretariat: only the operator's choice may change the key.
+  void leavingTheTypePicksNothing() {
+    office_->run("INSERT INTO Tipos(SEQUENCIA, IDORGAO, TIPO) VALUES (3, 2, 'Miúdas')");
+    office_->run("UPDATE Inciso SET TIPO = 3 WHERE ID = 1");
+    open();
+    tela_->press("Command1_3");
+    dropDownAndEscape();
+    tela_->press("Command1_0");
+    tela_->click(QStringLiteral("0001"));
+    tela_->press("Command1_1");
+    QCOMPARE(tela_->text("Text3"), QStringLiteral("003"));
+    tela_->key(Qt::Key_Tab);
+    QCOMPARE(tela_->focus(), QStringLiteral("Text2"));
+    QCOMPARE(tela_->text("Text3"), QStringLiteral("003"));
+    save(boxes::askAlteration(), boxes::altered());
+    QCOMPARE(office_->ask("SELECT TIPO FROM Inciso WHERE ID = 1"), QStringLiteral("3"));
+  }
+
+  void openingTheListKeepsTypeAndKey() {
+    tela_->click(QStringLiteral("0001"));
+    tela_->press("Command1_1");
+    dropDownAndEscape();
+    QCOMPARE(tela_->text("Combo1"), QStringLiteral("Miúdas"));
+    QCOMPARE(tela_->text("Text3"), QStringLiteral("001"));
+    auto& types = tela_->at<ComboBox>("Combo1");
+    QTest::keyClick(&types, Qt::Key_F4);
+    QTRY_VERIFY(types.view()->isVisible());
+    QTest::keyClick(types.view(), Qt::Key_Down);
+    QTest::keyClick(types.view(), Qt::Key_Return);
+    QCOMPARE(tela_->text("Combo1"), QStringLiteral("Um nome de tipo bem comprido"));
+    QCOMPARE(tela_->text("Text3"), QStringLiteral("002"));
+  }
+
+  // What is typed is no choice; name and key shown stay those of one type.
+  void aTypedNameGivesWayToTheKeys() {
+    tela_->click(QStringLiteral("0001"));
+    tela_->press("Command1_1");
+    tela_->type("Combo1", QStringLiteral("Um nome"));
+    tela_->key(Qt::Key_Tab);
+    QCOMPARE(tela_->text("Text3"), QStringLiteral("001"));
+    QCOMPARE(tela_->text("Combo1"), QStringLiteral("Miúdas"));
+  }
+
+  void aSingleTypeCanBePickedAgainAfterACancel() {
+    office_->run("DELETE FROM Inciso WHERE ID = 2; DELETE FROM Tipos WHERE SEQUENCIA = 2");
+    open();
+    for (int time = 0; time < 2; ++time) {
+      tela_->press("Command1_3");
+      QTest::keyClick(&tela_->at<ComboBox>("Combo1"), Qt::Key_Down);
+      QCOMPARE(tela_->text("Combo1"), QStringLiteral("Miúdas"));
+      QCOMPARE(tela_->text("Text3"), QStringLiteral("001"));
+      tela_->press("Command1_0");
+      QCOMPARE(tela_->text("Text3"), QString());
+    }
+  }
+
   void aShortTermIsNotCompleted() {
     tela_->press("Command1_3");
     auto& term = tela_->at<ComboBox>("Combo4");
@@ -333,6 +391,13 @@ class frmLeiTest : public QObject {
     tela_.reset();
     window_ = std::make_unique<frmLei>();
     tela_ = std::make_unique<Tela>(*window_);
+  }
+  void dropDownAndEscape() const {
+    auto& types = tela_->at<ComboBox>("Combo1");
+    QTest::keyClick(&types, Qt::Key_F4);
+    QTRY_VERIFY(types.view()->isVisible());
+    QTest::keyClick(types.view(), Qt::Key_Escape);
+    QTRY_VERIFY(!types.view()->isVisible());
   }
   void pickType() const { tela_->pick("Combo1", QStringLiteral("Miúdas")); }
   void fill() const {

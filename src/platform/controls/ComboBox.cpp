@@ -34,6 +34,14 @@ int ComboBox::addItem(const QString& text, std::int32_t key) {
   return count() - 1;
 }
 
+// The toolkit takes the end of an edit for the choice of the first item of that text.
+void ComboBox::setEditable(bool editable) {
+  QComboBox::setEditable(editable);
+  if (lineEdit() != nullptr) {
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+  }
+}
+
 int ComboBox::checked(int item) const {
   if (item < 0 || item >= count()) {
     throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
@@ -84,11 +92,14 @@ void ComboBox::selectByData(std::int32_t key) {
 }
 
 void ComboBox::setText(const QString& text) {
-  if (isEditable()) {
-    setEditText(text);
-  } else {
+  if (!isEditable()) {
     setCurrentIndex(text.isEmpty() ? -1 : findText(text));
+    return;
   }
+  if (itemText(currentIndex()) != text) {
+    setCurrentIndex(-1);
+  }
+  setEditText(text);
 }
 
 void ComboBox::setTypingBlocked(bool blocked) {
@@ -101,12 +112,24 @@ void ComboBox::showPopup() {
   QComboBox::showPopup();
 }
 
+void ComboBox::followLine() {
+  if (!isEditable() || listIndex() != -1) {
+    return;
+  }
+  const QString line = currentText();
+  setCurrentIndex(findText(line, Qt::MatchExactly | Qt::MatchCaseSensitive));
+  setEditText(line);
+}
+
 void ComboBox::keyPressEvent(QKeyEvent* event) {
   const bool moves = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
   const bool letter = !isEditable() && !event->text().isEmpty() && event->text().at(0).isPrint();
   const bool plain = !(event->modifiers() & (Qt::AltModifier | Qt::ControlModifier));
   if (count() == 0 && plain && (moves || letter)) {
     emit dropDown();
+  }
+  if (plain && moves) {
+    followLine();
   }
   QComboBox::keyPressEvent(event);
 }

@@ -1,9 +1,11 @@
 // A combo box whose items have a 32-bit key each: a fixed list, or, when editable, a line with
 // proposals.
 //
-// Items count from 0; -1 is no item. The wheel changes nothing while the box has no focus. The
-// screens fill a box when it is about to drop down; a box that is still empty is filled in the same
-// way when an arrow or a letter asks for an item.
+// Items count from 0; -1 is no item. Only a choice by keys or mouse, or setListIndex(), picks one:
+// a text that stands in an editable line when it is left is no choice, since several items may bear
+// it. The arrows go on from the item whose text the line shows. The wheel changes nothing while the
+// box has no focus. The screens fill a box when it is about to drop down; a box that is still empty
+// is filled in the same way when an arrow or a letter asks for an item.
 #pragma once
 
 #include <QComboBox>
@@ -36,8 +38,10 @@ class ComboBox : public QComboBox {
 
   // The line's text, or the item's.
   QString text() const { return currentText(); }
-  // Sets an editable line as it stands; a fixed list goes to the item of that text (-1 for none).
+  // Sets an editable line as it stands, and gives up an item of another text; a fixed list goes to
+  // the item of that text (-1 for none).
   void setText(const QString& text);
+  void setEditable(bool editable);
   // An editable line that cannot be typed into; its list can still be picked from.
   void setTypingBlocked(bool blocked);
 
@@ -55,6 +59,7 @@ class ComboBox : public QComboBox {
 
  private:
   int checked(int item) const;
+  void followLine();
 };
 
 }  // namespace quartela

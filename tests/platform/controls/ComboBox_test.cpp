@@ -29,6 +29,11 @@ class ComboBoxTest : public QObject {
   void typingJumpsToAnItem();
   void wheelNeedsTheFocus();
   void typingBlocked();
+  void leavingTheLinePicksNothing_data();
+  void leavingTheLinePicksNothing();
+  void aNameThatStandsTwiceKeepsItsEntry();
+  void arrowsGoOnFromTheTextInTheLine_data();
+  void arrowsGoOnFromTheTextInTheLine();
 
  private:
   void wheel();
@@ -233,6 +238,89 @@ void ComboBoxTest::typingBlocked() {
   QCOMPARE(box_->text(), "3390.14");
   QTest::keyClick(box_, Qt::Key_Down);
   QCOMPARE(box_->text(), "3390.30");
+}
+
+void ComboBoxTest::leavingTheLinePicksNothing_data() {
+  QTest::addColumn<bool>("typed");
+  QTest::addColumn<Qt::Key>("leaves");
+  QTest::newRow("shown, Tab") << false << Qt::Key_Tab;
+  QTest::newRow("typed, Tab") << true << Qt::Key_Tab;
+  QTest::newRow("typed, Enter") << true << Qt::Key_Return;
+}
+
+// Entries of one name are told apart by their keys alone: only a choice in the list can be meant.
+void ComboBoxTest::leavingTheLinePicksNothing() {
+  QFETCH(const bool, typed);
+  QFETCH(const Qt::Key, leaves);
+  box_->setEditable(true);
+  box_->addItem("Viagem", 1);
+  box_->addItem("Curso", 2);
+  box_->addItem("Curso", 3);
+  QWidget::setTabOrder(box_, other_);
+  box_->setFocus();
+  QTest::keyClick(box_, Qt::Key_F4);
+  QTRY_VERIFY(box_->view()->isVisible());
+  QTest::keyClick(box_->view(), Qt::Key_Escape);
+  QTRY_VERIFY(!box_->view()->isVisible());
+  if (typed) {
+    QTest::keyClicks(box_->lineEdit(), "Curso");
+  } else {
+    box_->setText("Curso");
+  }
+  QSignalSpy picked(box_, &ComboBox::picked);
+  QTest::keyClick(box_, leaves);
+  other_->setFocus();
+  QTRY_VERIFY(other_->hasFocus());
+  QCOMPARE(picked.size(), 0);
+  QCOMPARE(box_->listIndex(), -1);
+  QCOMPARE(box_->text(), "Curso");
+}
+
+void ComboBoxTest::aNameThatStandsTwiceKeepsItsEntry() {
+  box_->setEditable(true);
+  box_->addItem("Curso", 2);
+  box_->addItem("Curso", 3);
+  box_->setFocus();
+  QTest::keyClick(box_, Qt::Key_F4);
+  QTRY_VERIFY(box_->view()->isVisible());
+  QTest::keyClick(box_->view(), Qt::Key_End);
+  QTest::keyClick(box_->view(), Qt::Key_Return);
+  QCOMPARE(box_->listIndex(), 1);
+  QSignalSpy picked(box_, &ComboBox::picked);
+  other_->setFocus();
+  QTRY_VERIFY(other_->hasFocus());
+  box_->setText("Curso");
+  QCOMPARE(box_->itemDataAt(box_->listIndex()), 3);
+  QCOMPARE(picked.size(), 0);
+}
+
+void ComboBoxTest::arrowsGoOnFromTheTextInTheLine_data() {
+  QTest::addColumn<QString>("line");
+  QTest::addColumn<QString>("below");
+  QTest::newRow("emptied") << ""
+                           << "05";
+  QTest::newRow("another entry's") << "15"
+                                   << "30";
+  QTest::newRow("no entry's") << "7"
+                              << "05";
+}
+
+void ComboBoxTest::arrowsGoOnFromTheTextInTheLine() {
+  QFETCH(const QString, line);
+  QFETCH(const QString, below);
+  box_->setEditable(true);
+  for (const char* term : {"05", "15", "30"}) {
+    box_->addItem(term);
+  }
+  box_->setListIndex(2);
+  box_->setFocus();
+  box_->lineEdit()->selectAll();
+  QTest::keyClick(box_, Qt::Key_Delete);
+  QTest::keyClicks(box_, line);
+  QSignalSpy picked(box_, &ComboBox::picked);
+  QTest::keyClick(box_, Qt::Key_Down);
+  QCOMPARE(box_->text(), below);
+  QCOMPARE(picked.size(), 1);
 }
 
 QUARTELA_TEST_MAIN(ComboBoxTest)
