@@ -109,12 +109,15 @@ void QuadroRequisicao::mostra(const CamposRequisicao& requisicao) {
 }
 
 void QuadroRequisicao::recarrega(ComboBox& combo, const std::function<void()>& carrega) {
-  const bool escolhido = combo.listIndex() >= 0;
-  const std::int32_t chave = escolhido ? combo.itemDataAt(combo.listIndex()) : 0;
-  carrega();
-  if (escolhido) {
-    combo.setCurrentIndex(combo.findKey(chave));
+  if (combo.listIndex() < 0) {
+    carrega();
+    return;
   }
+  const QString texto = combo.text();
+  const std::int32_t chave = combo.itemDataAt(combo.listIndex());
+  carrega();
+  const int lugar = combo.findKey(chave);
+  combo.setCurrentIndex(lugar >= 0 ? lugar : combo.addItem(texto, chave));
 }
 
 void QuadroRequisicao::cmbOrgao_Click() {

@@ -59,7 +59,8 @@ class QuadroRequisicao : public QGroupBox {
   void cmbResponsavel_Click();
   void cmbTipo_Click();
   void cmbficha_DropDown();
-  // Fills `combo` anew and keeps what was chosen, where the new list still holds it.
+  // Fills `combo` anew and keeps what was chosen: a list that no longer offers it has it at its
+  // end.
   void recarrega(ComboBox& combo, const std::function<void()>& carrega);
 
   std::unique_ptr<Ui::QuadroRequisicao> ui_;

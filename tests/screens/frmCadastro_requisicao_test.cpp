@@ -1,4 +1,5 @@
 // The requisition side of the process screen.
+#include <QAbstractItemView>
 #include <QFile>
 
 #include "foundation/Banco.h"
@@ -353,6 +354,42 @@ class frmCadastroRequisicaoTest : public QObject {
     QCOMPARE(desk_->text("cmbResponsavel"), "Elza Nunes");
     QCOMPARE(desk_->text("txtid2"), "RG: 55 - CPF: 5");
     QCOMPARE(desk_->text("cmbOrdenador"), "Beto Reis");
+  }
+
+  void keepsAnInactivePersonWhenTheListIsOpened() {
+    desk_->office().run("UPDATE Requisicao SET TOMADOR = 2");
+    desk_->openProcess();
+    ComboBox* const people = desk_->combo("cmbResponsavel");
+    QTest::keyClick(people, Qt::Key_F4);
+    QTRY_VERIFY(people->view()->isVisible());
+    QTest::keyClick(people->view(), Qt::Key_Escape);
+    QTRY_VERIFY(!people->view()->isVisible());
+    QCOMPARE(desk_->text("cmbResponsavel"), "Elza Nunes");
+    QCOMPARE(desk_->text("txtid2"), "RG: 55 - CPF: 5");
+    desk_->type("mskvalor", "2000");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askAlteration(), Button::Yes);
+    dialogs.expectBox(boxes::altered());
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask("SELECT TOMADOR FROM Requisicao WHERE SEQ = 1214"), "2");
+  }
+
+  void anInactivePersonIsGoneFromTheListOnceAnotherIsPicked() {
+    desk_->office().run("UPDATE Requisicao SET TOMADOR = 2");
+    desk_->openProcess();
+    ComboBox* const people = desk_->combo("cmbResponsavel");
+    QTest::keyClick(people, Qt::Key_F4);
+    QTRY_VERIFY(people->view()->isVisible());
+    QCOMPARE(desk_->items("cmbResponsavel"),
+             QStringList({"Davi Souza", "Fábio Dias", "Elza Nunes"}));
+    QTest::keyClick(people->view(), Qt::Key_Home);
+    QTest::keyClick(people->view(), Qt::Key_Return);
+    QCOMPARE(desk_->text("txtid2"), "RG: 44.444 - CPF: 444.444.444-44");
+    QTest::keyClick(people, Qt::Key_F4);
+    QTRY_VERIFY(people->view()->isVisible());
+    QCOMPARE(desk_->items("cmbResponsavel"), QStringList({"Davi Souza", "Fábio Dias"}));
+    QTest::keyClick(people->view(), Qt::Key_Escape);
   }
 
   // Quotes end a text in a statement; none of these stands in one.
