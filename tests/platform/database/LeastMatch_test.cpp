@@ -156,6 +156,18 @@ class LeastMatch_test : public QObject {
     QCOMPARE(answerOfOpen("A"), QStringLiteral("ABACAXI"));
   }
 
+  // Statements that are kept for their next use make room for others when there are many: whenever
+  // that happens, those that a look-up is at work with stay.
+  void aLookUpKeepsItsStatements() {
+    PlainSql(database_->path()).run(kIndex);
+    for (int writes = 55; writes <= 70; ++writes) {
+      connection_ = std::make_unique<Connection>();
+      database_->open(*connection_);
+      writeInManyWays(writes);
+      QCOMPARE(answerOfOpen("Pos"), QStringLiteral("Posto São João"));
+    }
+  }
+
   void theKeyIsThereToWriteThrough() {
     PlainSql(database_->path()).run(kIndex);
     database_->open(*connection_);
@@ -211,6 +223,25 @@ class LeastMatch_test : public QObject {
     connection_ = std::make_unique<Connection>();
     database_->open(*connection_);
     return answerOfOpen(prefix);
+  }
+
+  // Each change sets other columns, to what they hold: as many statements as changes.
+  void writeInManyWays(int ways) {
+    connection_->beginTransaction();
+    for (const char* source : {"SELECT * FROM Requisicao WHERE SEQ = 114", "SELECT * FROM Orgao"}) {
+      Recordset row;
+      row.open(QLatin1String(source), *connection_, CursorType::Keyset, LockType::Pessimistic);
+      for (int columns = 1; columns < 1 << row.fieldCount() && ways > 0; ++columns, --ways) {
+        for (int i = 0; i < row.fieldCount(); ++i) {
+          if ((columns >> i & 1) != 0) {
+            row.setField(i, row.field(i));
+          }
+        }
+        row.update();
+      }
+    }
+    connection_->rollback();
+    QCOMPARE(ways, 0);
   }
 
   void compareBoth(const QString& prefix) {

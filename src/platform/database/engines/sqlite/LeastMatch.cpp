@@ -94,7 +94,7 @@ class Search {
   }
 
   // The first text of the range, or the last.
-  std::optional<std::string> seek(sqlite3_stmt* kept, const std::string& from,
+  std::optional<std::string> seek(const KeptStatement& kept, const std::string& from,
                                   const std::string& to) const {
     Statement statement(db_, kept, Activity::Reading);
     bindText(statement, 1, from);
@@ -214,8 +214,8 @@ class Search {
   }
 
   sqlite3* db_;
-  sqlite3_stmt* first_;
-  sqlite3_stmt* last_;
+  KeptStatement first_;
+  KeptStatement last_;
 };
 
 bool hasIndex(SqliteSession& session, const dialect::LeastMatch& wanted) {

@@ -115,12 +115,12 @@ SqliteSession::~SqliteSession() {
   giveUpTransaction();
 }
 
-sqlite3_stmt* SqliteSession::prepared(const std::string& sql) {
+sqlite::KeptStatement SqliteSession::prepared(const std::string& sql) {
   // The program writes through a few dozen texts; more than these would be a leak in disguise.
   constexpr std::size_t kMostKept = 64;
   const auto kept = prepared_.find(sql);
   if (kept != prepared_.end()) {
-    return kept->second.get();
+    return kept->second;
   }
   if (prepared_.size() == kMostKept) {
     prepared_.clear();
@@ -130,8 +130,7 @@ sqlite3_stmt* SqliteSession::prepared(const std::string& sql) {
                 sqlite3_prepare_v3(handle(), sql.data(), static_cast<int>(sql.size()),
                                    SQLITE_PREPARE_PERSISTENT, &statement, nullptr),
                 sqlite::Activity::Preparing);
-  prepared_.emplace(sql, statement);
-  return statement;
+  return prepared_.emplace(sql, sqlite::KeptStatement(statement, sqlite3_finalize)).first->second;
 }
 
 void SqliteSession::beginTransaction() {

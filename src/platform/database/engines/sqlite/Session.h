@@ -14,6 +14,7 @@
 #include <unordered_map>
 
 #include "platform/database/dialect/Catalogue.h"
+#include "platform/database/engines/sqlite/Statement.h"
 
 namespace quartela {
 
@@ -23,11 +24,6 @@ struct CloseHandle {
   void operator()(sqlite3* db) const;
 };
 using Handle = std::unique_ptr<sqlite3, CloseHandle>;
-
-struct FinalizeStatement {
-  void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-using PreparedStatement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
 class WriteScope;
 
@@ -47,9 +43,8 @@ class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
   const Catalogue& catalogue() const { return catalogue_; }
 
   // The statement prepared for that text, made at its first use and kept for the next: preparing a
-  // write with its checks takes longer than running it. Owned by the session; to be used by a
-  // Statement.
-  sqlite3_stmt* prepared(const std::string& sql);
+  // write with its checks takes longer than running it. To be used by one Statement at a time.
+  sqlite::KeptStatement prepared(const std::string& sql);
 
   // The transaction of Connection, one at a time. Error 5 for a second one, and for a commit
   // without one or when the engine has given it up by itself. A rollback without one does nothing.
@@ -75,7 +70,7 @@ class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
 
   sqlite::Handle db_;
   // Finalised before the handle is closed.
-  std::unordered_map<std::string, sqlite::PreparedStatement> prepared_;
+  std::unordered_map<std::string, sqlite::KeptStatement> prepared_;
   Catalogue catalogue_;
   bool transaction_ = false;
   int lockHolders_ = 0;

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <string>
+#include <utility>
 
 namespace quartela::sqlite {
 
@@ -11,8 +12,8 @@ Statement::Statement(sqlite3* db, std::string_view sql, Activity activity)
         activity == Activity::Opening ? activity : Activity::Preparing);
 }
 
-Statement::Statement(sqlite3* db, sqlite3_stmt* kept, Activity activity)
-    : db_(db), statement_(kept), activity_(activity), kept_(true) {}
+Statement::Statement(sqlite3* db, KeptStatement kept, Activity activity)
+    : db_(db), statement_(kept.get()), activity_(activity), kept_(std::move(kept)) {}
 
 Statement::~Statement() {
   // The codes only repeat what the last step has raised already.

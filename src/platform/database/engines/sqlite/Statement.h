@@ -1,6 +1,7 @@
 // A prepared statement of the engine, finalised when it leaves its scope.
 #pragma once
 
+#include <memory>
 #include <string_view>
 
 #include "platform/database/engines/sqlite/Errors.h"
@@ -8,12 +9,16 @@
 
 namespace quartela::sqlite {
 
+// A statement that is kept for its next use. Who keeps it and who is at work with it share it, so
+// that it can be dropped at any time.
+using KeptStatement = std::shared_ptr<sqlite3_stmt>;
+
 class Statement {
  public:
   // `sql` is one statement in UTF-8. `activity` says how the engine's refusals are to be read.
   Statement(sqlite3* db, std::string_view sql, Activity activity);
   // One that somebody else keeps for its next use: it is reset, not finalised.
-  Statement(sqlite3* db, sqlite3_stmt* kept, Activity activity);
+  Statement(sqlite3* db, KeptStatement kept, Activity activity);
   ~Statement();
   Statement(const Statement&) = delete;
   Statement& operator=(const Statement&) = delete;
@@ -39,7 +44,7 @@ class Statement {
   sqlite3* db_;
   sqlite3_stmt* statement_ = nullptr;
   Activity activity_;
-  bool kept_ = false;
+  KeptStatement kept_;
 };
 
 // Runs a statement that gives no rows, or whose rows nobody reads.
