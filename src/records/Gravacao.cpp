@@ -27,6 +27,7 @@ void grava_linha(std::int16_t codigo, const Gravacao& gravacao) {
   const bool inclusao = codigo == kInclusao;
   Tabela.open(inclusao ? gravacao.tabela : gravacao.selecao, *Conexao, CursorType::Static,
               LockType::Pessimistic);
+  const LinhaIniciada linha;
   if (inclusao) {
     Tabela.addNew();
   }
@@ -39,13 +40,11 @@ void grava_linha(std::int16_t codigo, const Gravacao& gravacao) {
   }
 }
 
-// The row begun is given up before the box, so that no lock is held while the operator reads it.
 bool grava_ou_avisa(std::int16_t codigo, const Gravacao& gravacao) {
   try {
     grava_linha(codigo, gravacao);
     return true;
   } catch (const RuntimeError& erro) {
-    Tabela.cancelUpdate();
     Erro_gravacao(erro);
     return false;
   }
@@ -71,6 +70,10 @@ void avisa_exclusao() {
 }
 
 }  // namespace
+
+LinhaIniciada::~LinhaIniciada() {
+  Tabela.cancelUpdate();
+}
 
 Desfecho Tenta_salvar(std::int16_t codigo, const Gravacao& gravacao) {
   if (!confirma(codigo, gravacao)) {

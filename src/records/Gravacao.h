@@ -12,6 +12,16 @@ namespace quartela {
 inline constexpr std::int16_t kInclusao = 1;
 inline constexpr std::int16_t kAlteracao = 2;
 
+// A row of Tabela that is being written: when an error leaves, it is given up with its lock before
+// anybody is told, so that no other program waits for the operator to read.
+class LinhaIniciada {
+ public:
+  LinhaIniciada() = default;
+  LinhaIniciada(const LinhaIniciada&) = delete;
+  LinhaIniciada& operator=(const LinhaIniciada&) = delete;
+  ~LinhaIniciada();
+};
+
 // What a class gives to the saving.
 struct Gravacao {
   QString tabela;                      // the table to add to

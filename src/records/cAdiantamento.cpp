@@ -102,6 +102,7 @@ bool cAdiantamento::Encerra_adiantamento() {
                 QString::number(Empenho);
     Tabela.close();
     Tabela.open(Sql_atual, *Conexao, CursorType::Static, LockType::Pessimistic);
+    const LinhaIniciada linha;
     if (Datadev == Value("")) {
       Datadev = Value();
     }
@@ -112,8 +113,6 @@ bool cAdiantamento::Encerra_adiantamento() {
     gravado = true;
     Tabela.close();
   });
-  // A row begun and not written must not keep the write lock.
-  Tabela.cancelUpdate();
   return gravado;
 }
 

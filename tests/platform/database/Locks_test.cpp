@@ -25,6 +25,7 @@ class Locks : public QObject {
   void twoRowsBegunOnOneConnection();
   void executeWhileARowIsBegun();
   void transactionKeepsOthersOut();
+  void transactionWithoutAChangeLetsOthersWrite();
   void transactionTakenOverFromARow();
   void rowOutlivesTheTransaction();
   void closingReleases();
@@ -224,6 +225,35 @@ void Locks::transactionKeepsOthersOut() {
   first_->commit();
   QVERIFY(!locked());
   QCOMPARE(ask(kText), kNew);
+}
+
+// A refused statement has changed nothing: while the operator reads of it, others can go on.
+void Locks::transactionWithoutAChangeLetsOthersWrite() {
+  const auto remove = [this](const char* table) {
+    return errorOf([&] { first_->execute(QStringLiteral("DELETE FROM ") + table); });
+  };
+  first_->beginTransaction();
+  QVERIFY(locked());
+  QCOMPARE(remove("Orgao"), 3200);
+  QVERIFY(first_->inTransaction());
+  QVERIFY(!locked());
+  database_->run("UPDATE Requisicao SET JUSTIFICATIVA = 'outro' WHERE SEQ = 114");
+  QCOMPARE(remove("PrestContas"), 0);
+  QVERIFY(locked());
+  QCOMPARE(remove("Orgao"), 3200);
+  QVERIFY(locked());
+  first_->commit();
+  QCOMPARE(ask("SELECT count(*) FROM PrestContas"), QStringLiteral("0"));
+  QCOMPARE(ask(kText), QStringLiteral("outro"));
+
+  first_->beginTransaction();
+  QCOMPARE(remove("Orgao"), 3200);
+  first_->commit();
+  QVERIFY(!first_->inTransaction());
+  first_->beginTransaction();
+  QCOMPARE(remove("Orgao"), 3200);
+  first_->rollback();
+  QVERIFY(!first_->inTransaction());
 }
 
 void Locks::transactionTakenOverFromARow() {

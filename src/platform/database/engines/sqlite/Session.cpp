@@ -76,16 +76,26 @@ WriteScope::WriteScope(SqliteSession& session) : session_(session), nested_(sess
 void WriteScope::commit() {
   run(session_.handle(), nested_ ? "RELEASE linha" : "COMMIT", Activity::Writing);
   done_ = true;
+  session_.changed_ = nested_;
 }
 
 WriteScope::~WriteScope() {
-  if (!done_ && nested_ && session_.engineInTransaction()) {
-    // A failure here means that the engine has given up the whole transaction; commit() tells.
-    sqlite3_exec(session_.handle(), "ROLLBACK TO linha; RELEASE linha", nullptr, nullptr, nullptr);
-  } else if (!done_ && !nested_) {
-    session_.giveUpTransaction();
+  if (!done_) {
+    nested_ ? undoStatement() : session_.giveUpTransaction();
   }
   session_.keepLock();
+}
+
+void WriteScope::undoStatement() {
+  if (!session_.engineInTransaction()) {
+    return;
+  }
+  // A failure here means that the engine has given up the whole transaction; commit() tells.
+  sqlite3_exec(session_.handle(), "ROLLBACK TO linha; RELEASE linha", nullptr, nullptr, nullptr);
+  if (session_.changedNothing()) {
+    session_.giveUpTransaction();
+    session_.yielded_ = true;
+  }
 }
 
 }  // namespace sqlite
@@ -140,15 +150,19 @@ void SqliteSession::beginTransaction() {
   }
   takeLock();
   transaction_ = true;
+  changed_ = false;
+  yielded_ = false;
 }
 
 void SqliteSession::commit() {
-  if (!transaction_ || !engineInTransaction()) {
+  if (!transaction_ || !(engineInTransaction() || yielded_)) {
     transaction_ = false;
     throw RuntimeError(ErrorNumber::InvalidProcedureCall,
                        QStringLiteral("não há transação a confirmar"));
   }
-  run(handle(), "COMMIT", Activity::Writing);
+  if (!yielded_) {
+    run(handle(), "COMMIT", Activity::Writing);
+  }
   transaction_ = false;
   keepLock();
 }
@@ -178,7 +192,7 @@ void SqliteSession::takeLock() {
   if (engineInTransaction()) {
     return;
   }
-  if (transaction_) {
+  if (transaction_ && !yielded_) {
     throw RuntimeError(ErrorNumber::InvalidProcedureCall,
                        QStringLiteral("a transação foi desfeita por um erro anterior"));
   }
@@ -187,6 +201,7 @@ void SqliteSession::takeLock() {
     throw RuntimeError(ErrorNumber::ReadOnlyDatabase);
   }
   run(handle(), "BEGIN IMMEDIATE", Activity::Writing);
+  yielded_ = false;
 }
 
 void SqliteSession::giveUpTransaction() {

@@ -3,7 +3,8 @@
 // The write lock of the file is taken by the transaction of Connection, by a row that a Recordset
 // has begun with LockType::Pessimistic (a holder), or for the moment of one statement (WriteScope).
 // A statement of its own is safe on the disk when it returns, whoever holds the lock; inside the
-// transaction of Connection it waits for the commit.
+// transaction of Connection it waits for the commit. A transaction that has changed nothing and
+// whose statement is refused lets others write, and takes the lock again with its next statement.
 #pragma once
 
 #include <sqlite3.h>
@@ -64,6 +65,7 @@ class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
   bool engineInTransaction() const { return sqlite3_get_autocommit(db_.get()) == 0; }
   void takeLock();
   void giveUpTransaction();
+  bool changedNothing() const { return !changed_ && lockHolders_ == 0; }
   // After a commit or rollback: takes the lock again for rows that are still begun. When another
   // program was quicker, they take it with their update.
   void keepLock();
@@ -73,6 +75,8 @@ class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
   std::unordered_map<std::string, sqlite::KeptStatement> prepared_;
   Catalogue catalogue_;
   bool transaction_ = false;
+  bool changed_ = false;  // by the transaction
+  bool yielded_ = false;  // its lock, until its next statement
   int lockHolders_ = 0;
 };
 
@@ -90,6 +94,8 @@ class WriteScope {
   void commit();
 
  private:
+  void undoStatement();
+
   SqliteSession& session_;
   bool nested_;
   bool done_ = false;
