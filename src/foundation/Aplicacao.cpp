@@ -15,6 +15,7 @@
 #include <QStringList>
 
 #include "foundation/Estilo.h"
+#include "foundation/Tamanho.h"
 #include "platform/dialogs/Dialogs.h"
 
 namespace quartela {
@@ -52,6 +53,15 @@ QAbstractButton* botao_da_tecla(QObject* objeto, const QEvent& evento) {
   return tecla ? botao : nullptr;
 }
 
+// Not one that hangs on another, such as a list or a tip.
+bool abre_janela(const QObject* objeto, const QEvent& evento) {
+  if (evento.type() != QEvent::Show || !objeto->isWidgetType()) {
+    return false;
+  }
+  const Qt::WindowType especie = static_cast<const QWidget*>(objeto)->windowType();
+  return especie == Qt::Window || especie == Qt::Dialog;
+}
+
 }  // namespace
 
 Aplicacao::Aplicacao(int& argc, char** argv) : QApplication(argc, argv) {
@@ -81,6 +91,9 @@ bool Aplicacao::notify(QObject* receiver, QEvent* event) {
 }
 
 bool Aplicacao::eventFilter(QObject* objeto, QEvent* evento) {
+  if (abre_janela(objeto, *evento)) {
+    Tamanho::cabe_na_tela(*static_cast<QWidget*>(objeto));
+  }
   if (gira_sem_foco(objeto, *evento) || tecla_sem_comando(objeto, *evento)) {
     evento->ignore();
     return true;

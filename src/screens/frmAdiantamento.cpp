@@ -8,6 +8,7 @@
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
+#include "foundation/Tamanho.h"
 #include "masterdata/cTipos.h"
 #include "platform/controls/ComboBox.h"
 #include "platform/controls/ListView.h"
@@ -63,6 +64,7 @@ frmAdiantamento::frmAdiantamento(const ContextoEmpenho& contexto, QWidget* paren
       contexto_(contexto),
       novo_(AlteraEmpenho == 0) {
   ui_->setupUi(this);
+  Tamanho::rola(*ui_->SSTab1);
   Estilo::destaca(*ui_->Command1);
   // There is one page: nothing to choose, and the first field has the focus.
   ui_->SSTab1->tabBar()->setFocusPolicy(Qt::NoFocus);

@@ -11,6 +11,7 @@
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
+#include "foundation/Tamanho.h"
 #include "platform/controls/OpenForms.h"
 #include "platform/controls/UpperCase.h"
 #include "platform/values/Convert.h"
@@ -66,6 +67,7 @@ frmCadastro::frmCadastro()
       ui_(std::make_unique<Ui::frmCadastro>()),
       fechamento_(*this, [this] { return tem_digitacao(); }) {
   ui_->setupUi(this);
+  Tamanho::rola(*ui_->SSTab1);
   Command1 = {ui_->Command1_0, ui_->Command1_1, ui_->Command1_2, ui_->Command1_3,
               ui_->Command1_4, ui_->Command1_5, ui_->Command1_6};
   prepara_tela();

@@ -3,6 +3,7 @@
 #include "foundation/Escape.h"
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
+#include "foundation/Tamanho.h"
 #include "records/Gravacao.h"
 #include "records/Impressao.h"
 #include "records/Principal.h"
@@ -18,6 +19,7 @@ frmReqAvulso::frmReqAvulso(QWidget* parent)
       ui_(std::make_unique<Ui::frmReqAvulso>()),
       fechamento_(*this, [this] { return ui_->fracadastro->tem_digitacao(); }) {
   ui_->setupUi(this);
+  Tamanho::rola(*ui_->fracadastro);
   Estilo::destaca(*ui_->cmdAplicar);
   ui_->fracadastro->prepara_numero(QStringLiteral("Código"), {});
   connect(ui_->cmdAplicar, &QPushButton::clicked, this,

@@ -1,0 +1,189 @@
+// Every window on the screens that offices have: it fits with its frame, and what closes it is in
+// view. CTest runs this once for each screen.
+#include <QAbstractButton>
+#include <QFile>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+
+#include "foundation/Splash.h"
+#include "foundation/Tamanho.h"
+#include "foundation/UmaJanela.h"
+#include "foundation/frmLogin.h"
+#include "platform/controls/StatusBar.h"
+#include "records/Principal.h"
+#include "screens/frmAdiantamento.h"
+#include "screens/frmCadastro.h"
+#include "screens/frmReqAvulso.h"
+#include "shell/frmOficce.h"
+#include "tests/support/Folders.h"
+#include "tests/support/office/Office.h"
+#include "tests/support/office/OfficeMain.h"
+
+namespace quartela {
+namespace {
+
+// A title bar and the borders of a usual desktop.
+constexpr QSize kFrame(8, 36);
+
+QRect inWindow(const QWidget& part) {
+  return {part.mapTo(part.window(), QPoint()), part.size()};
+}
+
+bool scrolls(const QWidget* part) {
+  for (; part != nullptr; part = part->parentWidget()) {
+    if (qobject_cast<const QScrollArea*>(part) != nullptr) {
+      return true;
+    }
+  }
+  return false;
+}
+
+QString placeOf(const QWidget& part) {
+  const QRect rect = inWindow(part);
+  return QStringLiteral("%1 %2,%3 %4x%5 in %6x%7")
+      .arg(part.objectName())
+      .arg(rect.x())
+      .arg(rect.y())
+      .arg(rect.width())
+      .arg(rect.height())
+      .arg(part.window()->width())
+      .arg(part.window()->height());
+}
+
+// What is wrong with the window on its screen; empty for nothing.
+QString misfits(const QWidget& window, const QStringList& always) {
+  const QSize room = window.screen()->availableSize() - kFrame;
+  const QSize least = window.minimumSize().expandedTo(window.minimumSizeHint());
+  QString found;
+  for (const QSize size : {window.size(), least}) {
+    if (size.width() > room.width() || size.height() > room.height()) {
+      found += QStringLiteral("%1x%2 in %3x%4; ")
+                   .arg(size.width())
+                   .arg(size.height())
+                   .arg(room.width())
+                   .arg(room.height());
+    }
+  }
+  for (const QString& name : always) {
+    const auto* const part = window.findChild<QWidget*>(name);
+    if (part == nullptr || scrolls(part) || !window.rect().contains(inWindow(*part))) {
+      found += part == nullptr ? name : placeOf(*part) + QStringLiteral("; ");
+    }
+  }
+  return found;
+}
+
+}  // namespace
+
+class SmallScreensTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    office_ = std::make_unique<test::Office>(test::Data::Demonstration);
+    Tag_principal.clear();
+  }
+  void cleanup() {
+    for (QWidget* form : OpenForms::all()) {
+      form->close();
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    office_.reset();
+  }
+
+  void theScreenIsTheOneAskedFor() {
+    const QByteArray asked = qgetenv("QUARTELA_TEST_SCREEN");
+    if (asked.isEmpty()) {
+      QSKIP("CTest names the screen");
+    }
+    const QSize size = QGuiApplication::primaryScreen()->size();
+    QCOMPARE(QStringLiteral("%1x%2").arg(size.width()).arg(size.height()), QString(asked));
+  }
+
+  void theLogin() {
+    mostra_frmLogin();
+    frmLogin* const login = UmaJanela<frmLogin>::aberta();
+    QVERIFY(QTest::qWaitForWindowExposed(login));
+    QTest::mouseClick(login->findChild<QAbstractButton*>("cmdUp"), Qt::LeftButton);
+    QCOMPARE(misfits(*login, {"cmdOk", "cmdCancel", "cmdUp", "cmdParam"}), QString());
+  }
+
+  void theSplash() {
+    const QString picture = QStringLiteral("progress.gif");
+    QVERIFY(QFile::copy(test::inSource("resources/delivery/" + picture), office_->file(picture)));
+    mostra_Splash();
+    Splash* const splash = UmaJanela<Splash>::aberta();
+    QCOMPARE(misfits(*splash, {}), QString());
+    QVERIFY(splash->screen()->availableGeometry().contains(splash->geometry()));
+  }
+
+  void theMainWindow() {
+    frmOficce window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(misfits(window, {"Ribbon", "sbStatusBar"}), QString());
+    window.resize(window.minimumSize());
+    QCOMPARE(misfits(window, {"sbStatusBar"}), QString());
+  }
+
+  void theProcessWindow() {
+    ModoAlteracao = 0;
+    UmaJanela<frmCadastro>::mostra();
+    frmCadastro* const window = UmaJanela<frmCadastro>::aberta();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QCOMPARE(misfits(*window, {"cmdOk", "cmdAplicar", "cmdImprimir", "Command1_0", "cmdPrestacao"}),
+             QString());
+    everyFieldCanBeReached(*window);
+  }
+
+  void theStandaloneRequisition() {
+    UmaJanela<frmReqAvulso>::mostra();
+    frmReqAvulso* const window = UmaJanela<frmReqAvulso>::aberta();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QCOMPARE(misfits(*window, {"cmdOk", "cmdAplicar", "cmdImprimir", "Command1_0"}), QString());
+    everyFieldCanBeReached(*window);
+  }
+
+  void theAdvanceDialog() {
+    AlteraEmpenho = 0;
+    frmAdiantamento window({});
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(misfits(window, {"Command1", "Command2"}), QString());
+    everyFieldCanBeReached(window);
+  }
+
+  // Also where the window is made smaller than any screen.
+  void aFieldOutOfSightScrollsIntoView() {
+    UmaJanela<frmReqAvulso>::mostra();
+    frmReqAvulso* const window = UmaJanela<frmReqAvulso>::aberta();
+    window->resize(400, 200);
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    everyFieldCanBeReached(*window);
+    QCOMPARE(misfits(*window, {"Command1_0"}), QString());
+  }
+
+ private:
+  void everyFieldCanBeReached(QWidget& window) {
+    QApplication::setActiveWindow(&window);
+    int seen = 0;
+    for (QWidget* field : window.findChildren<QWidget*>()) {
+      if (field->isVisible() && field->isEnabled() && (field->focusPolicy() & Qt::TabFocus) != 0 &&
+          scrolls(field)) {
+        field->setFocus();
+        QVERIFY2(!field->visibleRegion().isEmpty(), qPrintable(placeOf(*field)));
+        ++seen;
+      }
+    }
+    QVERIFY(seen > 0);
+  }
+
+  std::unique_ptr<test::Office> office_;
+};
+
+}  // namespace quartela
+
+QUARTELA_OFFICE_TEST_MAIN(quartela::SmallScreensTest)
+#include "SmallScreens_test.moc"
