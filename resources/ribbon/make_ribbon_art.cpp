@@ -31,7 +31,8 @@ constexpr std::array kPercents{100, 125, 150, 175, 200, 300};
 constexpr double kStripHidden = 26;   // the strip begins this far above the control's top
 constexpr double kTabRow = 24;        // height of the row of tabs
 constexpr double kCategoryInset = 2;  // space above a category's frame
-constexpr double kBandTop = 70;       // where the band of a category's caption begins
+constexpr double kBandTop = 66;       // where the band of a category's caption begins
+constexpr double kButtonFoot = 4;     // space below a button, so that it ends above the band
 constexpr double kFar = 1000;         // far outside of any picture
 
 enum class Part { Left, Center, Right };
@@ -195,7 +196,7 @@ void drawCategory(Canvas& canvas, Part part, const QString& prefix) {
 }
 
 void drawButton(Canvas& canvas, Part part, const QString& prefix) {
-  drawFrame(canvas, part, {.prefix = prefix, .radius = 3});
+  drawFrame(canvas, part, {.prefix = prefix, .radius = 3, .bottom = kButtonFoot});
 }
 
 // The corner: two sides of a small window, and an arrow that leads out of it.
