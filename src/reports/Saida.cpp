@@ -18,6 +18,8 @@ using reporting::ReportPreview;
 
 void imprime_documento(const Document& documento, bool pergunta) {
   QPrinter impressora(QPrinter::HighResolution);
+  // The dialog proposes it where pages go into a file.
+  impressora.setDocName(documento.title());
   if (!pergunta || Dialogs::printer(impressora)) {
     reporting::printDocument(documento, impressora);
   }

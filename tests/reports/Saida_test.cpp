@@ -39,6 +39,16 @@ FileRequest saveRequest() {
           .fileName = QStringLiteral("Amostra")};
 }
 
+// Notes what the print dialog is given, and gives up.
+class AskedPrinter : public ScriptedDialogs {
+ public:
+  bool printer(QPrinter& printer) override {
+    documentName = printer.docName();
+    return false;
+  }
+  QString documentName;
+};
+
 // A preview of the sample as the program shows it, complete.
 struct Shown {
   Shown() {
@@ -77,6 +87,8 @@ class SaidaTest : public QObject {
   void unwritablePathIsTold();
   void printsAfterTheDialog();
   void printingIsGivenUp();
+  void printDialogProposesTheDocumentsName();
+  void commandsAreNamedAsTheirDialogs();
   void failedPrintingIsTold();
   void withoutPrinterIs482();
   void deliversAsAsked_data();
@@ -160,6 +172,23 @@ void SaidaTest::printingIsGivenUp() {
   shown.click("print");
   QVERIFY(dialogs.satisfied());
   QVERIFY(shown.window->isVisible());
+}
+
+// Where pages are printed into a file, its name is that of the document.
+void SaidaTest::printDialogProposesTheDocumentsName() {
+  AskedPrinter asked;
+  const Shown shown;
+  QVERIFY(shown.complete);
+  shown.click("print");
+  QCOMPARE(asked.documentName, QStringLiteral("Amostra"));
+}
+
+void SaidaTest::commandsAreNamedAsTheirDialogs() {
+  const Shown shown;
+  QVERIFY(shown.complete);
+  QCOMPARE(shown.button("save")->text(), saveRequest().title);
+  QCOMPARE(shown.button("print")->text(), QStringLiteral("Imprimir"));
+  QCOMPARE(shown.button("close")->text(), QStringLiteral("Fechar"));
 }
 
 // The operator picked a printer that does not take the job.

@@ -18,6 +18,8 @@ constexpr QRgb kDesk = 0xFF8B97A5;
 constexpr QRgb kShadowColor = 0xFF6B7683;
 constexpr QRgb kEdge = 0xFF55606C;
 constexpr int kWheelNotch = 120;
+// A notch of the wheel zooms by so many hundredths.
+constexpr int kZoomNotch = 10;
 
 }  // namespace
 
@@ -67,10 +69,12 @@ PageView::PageView(QWidget* parent) : QScrollArea(parent), sheet_(new Sheet(*thi
   setAlignment(Qt::AlignCenter);
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
-  QPalette colors = palette();
-  colors.setColor(QPalette::Window, QColor(kDesk));
-  viewport()->setPalette(colors);
   fitSheet();
+}
+
+// The desk round the sheet. A style sheet would take no palette for it.
+void PageView::paintEvent(QPaintEvent* event) {
+  QPainter(viewport()).fillRect(event->rect(), QColor(kDesk));
 }
 
 void PageView::showPage(std::shared_ptr<const Document> document, int page) {
@@ -157,16 +161,29 @@ void PageView::resizeEvent(QResizeEvent* event) {
   fitSheet();
 }
 
+// A fine wheel tells of a notch in many small turns; what is less than a hundredth waits.
+void PageView::zoomByWheel(int turn) {
+  zoomWheel_ += turn * kZoomNotch;
+  const int hundredths = zoomWheel_ / kWheelNotch;
+  zoomWheel_ -= hundredths * kWheelNotch;
+  if (hundredths != 0) {
+    setZoom(Zoom::Percent, percent() + hundredths);
+  }
+}
+
 void PageView::wheelEvent(QWheelEvent* event) {
   const int turn = event->angleDelta().y();
+  const bool sideways = std::abs(event->angleDelta().x()) > std::abs(turn);
   if ((event->modifiers() & Qt::ControlModifier) != 0) {
-    setZoom(Zoom::Percent, percent() + (turn > 0 ? 10 : -10));
+    if (!sideways) {
+      zoomByWheel(turn);
+    }
     event->accept();
     return;
   }
   const QScrollBar* const bar = verticalScrollBar();
   const bool atEnd = turn < 0 ? bar->value() == bar->maximum() : bar->value() == bar->minimum();
-  if (!atEnd || turn == 0) {
+  if (!atEnd || turn == 0 || sideways) {
     wheel_ = 0;
     QScrollArea::wheelEvent(event);
     return;

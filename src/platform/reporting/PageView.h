@@ -43,12 +43,14 @@ class PageView : public QScrollArea {
   void turned(int direction);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:
   class Sheet;
 
+  void zoomByWheel(int turn);
   void fitSheet();
   double scaleToFit() const;
   QSizeF paperPixels() const;
@@ -58,7 +60,8 @@ class PageView : public QScrollArea {
   int page_ = -1;
   Zoom zoom_ = Zoom::Width;
   double scale_ = 1;
-  int wheel_ = 0;  // eighths of a degree since the last turn
+  int wheel_ = 0;      // eighths of a degree since the last turn
+  int zoomWheel_ = 0;  // the same of the zooming wheel, less than a hundredth is worth
 };
 
 }  // namespace quartela::reporting

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -31,6 +32,9 @@ namespace {
 constexpr int kSlice = 20;
 constexpr int kWholeProgress = 1000;
 constexpr QSize kUsualSize{1000, 720};
+// What a window manager may put round the window.
+constexpr QSize kFrame{24, 56};
+constexpr QSize kIcon{20, 20};
 constexpr int kPercents[] = {50, 75, 100, 125, 150, 200, 300, 400};
 constexpr int kWidthEntry = 0;
 constexpr int kPageEntry = 1;
@@ -75,7 +79,7 @@ ReportPreview::ReportPreview(std::shared_ptr<Report> report, PreviewCommands com
   connect(&timer_, &QTimer::timeout, this, &ReportPreview::buildSlice);
   timer_.setSingleShot(true);
   timer_.start(0);
-  resize(kUsualSize.boundedTo(screen()->availableSize() * 0.95));
+  resize(kUsualSize.boundedTo(screen()->availableSize() - kFrame));
   view_->setFocus();
   showZoom();
   showState();
@@ -113,32 +117,46 @@ void ReportPreview::addKeys(const QList<QKeySequence>& shortcuts,
   }
 }
 
+// A tool bar that is too narrow hides its last buttons; the one that closes the window stands
+// beside it and is always in view.
 void ReportPreview::makeToolBar() {
-  auto* const bar = new QToolBar(QStringLiteral("Visualização"), this);
+  auto* const strip = new QWidget(this);
+  auto* const row = new QHBoxLayout(strip);
+  row->setContentsMargins(0, 0, 4, 0);
+  row->setSpacing(0);
+  auto* const bar = new QToolBar(QStringLiteral("Visualização"), strip);
+  bar->setObjectName(QStringLiteral("commands"));
   bar->setMovable(false);
-  bar->setIconSize(QSize(20, 20));
+  bar->setIconSize(kIcon);
   bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
-  addToolBar(bar);
+  row->addWidget(bar, 1);
+  row->addWidget(closeButton(strip));
   addOutput(*bar);
   addPages(*bar);
   bar->addSeparator();
   addZoom(*bar);
-  auto* const spring = new QWidget(bar);
-  spring->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  bar->addWidget(spring);
-  QAction* const close =
-      addCommand(*bar, "close", QStringLiteral("Fechar"), {}, &ReportPreview::escape);
-  close->disconnect(this);
-  connect(close, &QAction::triggered, this, &QWidget::close);
-  qobject_cast<QToolButton*>(bar->widgetForAction(close))
-      ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  setMenuWidget(strip);
   addKeys(keys({QKeyCombination(Qt::Key_Escape)}), &ReportPreview::escape);
+}
+
+QToolButton* ReportPreview::closeButton(QWidget* parent) {
+  auto* const button = new QToolButton(parent);
+  button->setObjectName(QStringLiteral("button-close"));
+  button->setText(QStringLiteral("Fechar"));
+  button->setAccessibleName(button->text());
+  button->setToolTip(button->text());
+  button->setIcon(icon("close"));
+  button->setIconSize(kIcon);
+  button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  button->setAutoRaise(true);
+  connect(button, &QToolButton::clicked, this, &QWidget::close);
+  return button;
 }
 
 void ReportPreview::addOutput(QToolBar& bar) {
   print_ = addCommand(bar, "print", QStringLiteral("Imprimir"), keys({Qt::CTRL | Qt::Key_P}),
                       &ReportPreview::print);
-  save_ = addCommand(bar, "save", QStringLiteral("Salvar em PDF"), keys({Qt::CTRL | Qt::Key_S}),
+  save_ = addCommand(bar, "save", QStringLiteral("Salvar como PDF"), keys({Qt::CTRL | Qt::Key_S}),
                      &ReportPreview::save);
   for (QAction* const action : {print_, save_}) {
     qobject_cast<QToolButton*>(bar.widgetForAction(action))
@@ -198,8 +216,12 @@ void ReportPreview::addZoom(QToolBar& bar) {
   }
   zoom_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   zoom_->installEventFilter(this);
+  // Completing would make "300%" of a typed 30.
+  zoom_->setCompleter(nullptr);
+  zoom_->lineEdit()->installEventFilter(this);
   connect(zoom_, &QComboBox::activated, this, &ReportPreview::pickZoom);
-  connect(zoom_->lineEdit(), &QLineEdit::returnPressed, this, &ReportPreview::takeZoom);
+  connect(zoom_->lineEdit(), &QLineEdit::returnPressed, this, &ReportPreview::enterZoom);
+  connect(zoom_->lineEdit(), &QLineEdit::editingFinished, this, &ReportPreview::takeZoom);
   bar.addWidget(zoom_);
   addCommand(bar, "zoom-in", QStringLiteral("Aumentar"),
              keys({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}), &ReportPreview::zoomIn);
@@ -330,15 +352,23 @@ void ReportPreview::pickZoom(int index) {
   view_->setFocus();
 }
 
+// What was typed; what is no number leaves the zoom as it is.
 void ReportPreview::takeZoom() {
+  if (!zoom_->lineEdit()->isModified()) {
+    return;
+  }
   QString text = zoom_->currentText();
   bool isNumber = false;
   const int percent = text.remove(QLatin1Char('%')).trimmed().toInt(&isNumber);
   if (isNumber) {
     view_->setZoom(PageView::Zoom::Percent, percent);
   }
-  view_->setFocus();
   showZoom();
+}
+
+void ReportPreview::enterZoom() {
+  takeZoom();
+  view_->setFocus();
 }
 
 void ReportPreview::showZoom() {
@@ -385,7 +415,16 @@ void ReportPreview::closeEvent(QCloseEvent* event) {
   QMainWindow::closeEvent(event);
 }
 
-// The wheel changes no value, and a page number that was begun is forgotten on leaving.
+void ReportPreview::leaveField() {
+  number_->setModified(false);
+  zoom_->lineEdit()->setModified(false);
+  view_->setFocus();
+  showZoom();
+  showProgress();
+}
+
+// The wheel changes no value, a page number that was begun is forgotten on leaving, and Escape in a
+// field leaves that field and not the window.
 bool ReportPreview::eventFilter(QObject* watched, QEvent* event) {
   if (watched == zoom_ && event->type() == QEvent::Wheel && !zoom_->hasFocus()) {
     return true;
@@ -393,6 +432,15 @@ bool ReportPreview::eventFilter(QObject* watched, QEvent* event) {
   if (watched == number_ && event->type() == QEvent::FocusOut) {
     number_->setModified(false);
     showProgress();
+  }
+  const bool field = watched == number_ || watched == zoom_ || watched == zoom_->lineEdit();
+  const bool key = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+  if (field && key && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    event->accept();
+    if (event->type() == QEvent::KeyPress) {
+      leaveField();
+    }
+    return true;
   }
   return QMainWindow::eventFilter(watched, event);
 }

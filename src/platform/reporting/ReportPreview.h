@@ -7,7 +7,8 @@
 // Keys: PageUp and PageDown scroll, then turn the page; Ctrl+PageUp and Ctrl+PageDown turn it;
 // Ctrl+Home and Ctrl+End go to the first and the last; Ctrl+G to the page's number; Ctrl++ and
 // Ctrl+- zoom, Ctrl+0 to 100%, Ctrl+1 to the width, Ctrl+2 to the whole page; Ctrl+P prints, Ctrl+S
-// saves; Esc cancels the building, or closes.
+// saves; Esc leaves the page's number or the zoom as they were, else cancels the building, else
+// closes.
 #pragma once
 
 #include <QMainWindow>
@@ -26,6 +27,7 @@ class QLineEdit;
 class QProgressBar;
 class QPushButton;
 class QToolBar;
+class QToolButton;
 
 namespace quartela::reporting {
 
@@ -66,6 +68,7 @@ class ReportPreview : public QMainWindow {
                       const QList<QKeySequence>& keys, void (ReportPreview::*handler)());
   void addKeys(const QList<QKeySequence>& keys, void (ReportPreview::*handler)());
   void makeToolBar();
+  QToolButton* closeButton(QWidget* parent);
   void addOutput(QToolBar& bar);
   void addPages(QToolBar& bar);
   void addZoom(QToolBar& bar);
@@ -88,12 +91,14 @@ class ReportPreview : public QMainWindow {
   void zoomPage();
   void pickZoom(int index);
   void takeZoom();
+  void enterZoom();
   void showZoom();
 
   void print();
   void save();
   void cancelBuilding();
   void escape();
+  void leaveField();
 
   void buildSlice();
   void buildFailed(const RuntimeError& error);

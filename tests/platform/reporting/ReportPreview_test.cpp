@@ -65,6 +65,14 @@ struct Shown {
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
     QTest::keyClick(window.get(), key, modifiers);
   }
+  // Turns the wheel over the page.
+  void wheel(QPoint angle, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    QWidget* const area = view()->viewport();
+    const QPointF middle = area->rect().center();
+    QWheelEvent event(middle, area->mapToGlobal(middle), {}, angle, Qt::NoButton, modifiers,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(area, &event);
+  }
   PageView* view() const { return window->findChild<PageView*>(); }
   QLineEdit* number() const { return find<QLineEdit>("pageNumber"); }
   QString count() const { return find<QLabel>("pageCount")->text(); }
@@ -92,6 +100,17 @@ class ReportPreviewTest : public QObject {
   void zoomsByKeys();
   void zoomsByTheBox();
   void fittedZoomFollowsTheWindow();
+  void aTypedZoomIsWhatWasTyped_data();
+  void aTypedZoomIsWhatWasTyped();
+  void leavingTheZoomTakesIt();
+  void escapeLeavesTheField_data();
+  void escapeLeavesTheField();
+  void fineWheelZoomsAsMuchAsANotch_data();
+  void fineWheelZoomsAsMuchAsANotch();
+  void sidewaysWheelZoomsAndTurnsNothing();
+  void theDeskIsOneColour();
+  void closingIsAlwaysInView_data();
+  void closingIsAlwaysInView();
   void wheelChangesNoBoxWithoutFocus();
   void printsAndSavesThroughItsOwner();
   void withoutCommandsThereAreNoButtons();
@@ -180,12 +199,7 @@ void ReportPreviewTest::wheelTurnsAtThePagesEnd() {
   QVERIFY(shown.complete);
   QTRY_COMPARE(shown.count(), QStringLiteral("de 4"));
   shown.key(Qt::Key_2, Qt::ControlModifier);
-  const auto turn = [&](int angle) {
-    const QPointF middle = shown.view()->viewport()->rect().center();
-    QWheelEvent event(middle, shown.view()->viewport()->mapToGlobal(middle), {}, {0, angle},
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(shown.view()->viewport(), &event);
-  };
+  const auto turn = [&](int angle) { shown.wheel({0, angle}); };
   turn(-120);
   QCOMPARE(shown.window->page(), 2);
   turn(-60);
@@ -274,6 +288,164 @@ void ReportPreviewTest::zoomsByTheBox() {
   QCOMPARE(box->currentText(), QStringLiteral("110%"));
   type("200%");
   QCOMPARE(shown.view()->percent(), 200);
+}
+
+void ReportPreviewTest::aTypedZoomIsWhatWasTyped_data() {
+  QTest::addColumn<QString>("typed");
+  QTest::addColumn<int>("percent");
+  QTest::newRow("the beginning of an entry") << "30" << 30;
+  QTest::newRow("another") << "12" << 12;
+  QTest::newRow("of another with its sign") << "20%" << 20;
+  QTest::newRow("an entry") << "150%" << 150;
+  QTest::newRow("an entry without its sign") << "150" << 150;
+  QTest::newRow("with a blank") << "85 %" << 85;
+  QTest::newRow("too small") << "1" << 10;
+  QTest::newRow("too large") << "4000" << 400;
+}
+
+void ReportPreviewTest::aTypedZoomIsWhatWasTyped() {
+  QFETCH(QString, typed);
+  QFETCH(int, percent);
+  const Shown shown(1);
+  QVERIFY(shown.complete);
+  auto* const box = shown.find<QComboBox>("zoom");
+  box->setFocus();
+  box->lineEdit()->selectAll();
+  QTest::keyClicks(box, typed);
+  QTest::keyClick(box, Qt::Key_Return);
+  QCOMPARE(shown.view()->percent(), percent);
+  QCOMPARE(box->currentText(), QStringLiteral("%1%").arg(percent));
+  QTRY_VERIFY(shown.view()->hasFocus());
+}
+
+void ReportPreviewTest::leavingTheZoomTakesIt() {
+  const Shown shown(1);
+  QVERIFY(shown.complete);
+  auto* const box = shown.find<QComboBox>("zoom");
+  box->setFocus();
+  box->lineEdit()->selectAll();
+  QTest::keyClicks(box, QStringLiteral("40"));
+  QTest::keyClick(box, Qt::Key_Tab);
+  QTRY_VERIFY(!box->hasFocus());
+  QCOMPARE(shown.view()->percent(), 40);
+  QCOMPARE(box->currentText(), QStringLiteral("40%"));
+}
+
+void ReportPreviewTest::escapeLeavesTheField_data() {
+  QTest::addColumn<QByteArray>("field");
+  QTest::newRow("page") << QByteArray("pageNumber");
+  QTest::newRow("zoom") << QByteArray("zoom");
+}
+
+void ReportPreviewTest::escapeLeavesTheField() {
+  QFETCH(QByteArray, field);
+  const Shown shown(100);
+  QVERIFY(shown.complete);
+  QTRY_COMPARE(shown.count(), QStringLiteral("de 4"));
+  shown.key(Qt::Key_0, Qt::ControlModifier);
+  auto* const widget = shown.find<QWidget>(field.constData());
+  widget->setFocus();
+  QTRY_COMPARE(QApplication::focusWidget(), widget);
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("3"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  QVERIFY(shown.window->isVisible());
+  QTRY_VERIFY(shown.view()->hasFocus());
+  QCOMPARE(shown.window->page(), 1);
+  QCOMPARE(shown.number()->text(), QStringLiteral("1"));
+  QCOMPARE(shown.view()->percent(), 100);
+  QCOMPARE(shown.find<QComboBox>("zoom")->currentText(), QStringLiteral("100%"));
+  // The next one is for the window.
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  QVERIFY(!shown.window->isVisible());
+}
+
+void ReportPreviewTest::fineWheelZoomsAsMuchAsANotch_data() {
+  QTest::addColumn<int>("turn");
+  for (const int turn : {120, 60, 40, 15, 8, 1}) {
+    QTest::addRow("%d", turn) << turn;
+  }
+}
+
+void ReportPreviewTest::fineWheelZoomsAsMuchAsANotch() {
+  QFETCH(int, turn);
+  const Shown shown(1);
+  QVERIFY(shown.complete);
+  shown.key(Qt::Key_0, Qt::ControlModifier);
+  const auto turnNotch = [&](int direction) {
+    for (int turned = 0; turned < 120; turned += turn) {
+      shown.wheel({0, turn * direction}, Qt::ControlModifier);
+    }
+  };
+  turnNotch(1);
+  QCOMPARE(shown.view()->percent(), 110);
+  turnNotch(1);
+  QCOMPARE(shown.view()->percent(), 120);
+  turnNotch(-1);
+  turnNotch(-1);
+  turnNotch(-1);
+  QCOMPARE(shown.view()->percent(), 90);
+}
+
+void ReportPreviewTest::sidewaysWheelZoomsAndTurnsNothing() {
+  const Shown shown(100);
+  QVERIFY(shown.complete);
+  QTRY_COMPARE(shown.count(), QStringLiteral("de 4"));
+  shown.key(Qt::Key_0, Qt::ControlModifier);
+  for (const QPoint angle : {QPoint(120, 0), QPoint(-120, 0), QPoint(120, 40), QPoint(-120, -40)}) {
+    shown.wheel(angle, Qt::ControlModifier);
+    QCOMPARE(shown.view()->percent(), 100);
+  }
+  shown.key(Qt::Key_2, Qt::ControlModifier);
+  for (int turn = 0; turn < 4; ++turn) {
+    shown.wheel({-120, -40});
+  }
+  QCOMPARE(shown.window->page(), 1);
+}
+
+// Whatever style the program wears: beside the sheet, behind it and where there is no sheet.
+void ReportPreviewTest::theDeskIsOneColour() {
+  const Shown shown(1);
+  QVERIFY(shown.complete);
+  shown.window->setStyleSheet(QStringLiteral("QWidget { background: #ffff00; }"));
+  QTest::keyClicks(shown.window.get(), QStringLiteral("2"), Qt::ControlModifier);
+  const QImage seen = shown.view()->grab().toImage();
+  const QRgb desk = seen.pixel(2, 2);
+  QVERIFY(desk != QColor(Qt::yellow).rgb());
+  const QWidget* const sheet = shown.view()->widget();
+  QVERIFY(sheet->x() > 20);
+  for (int x = 0; x < sheet->x() + PageView::kBorder - 2; ++x) {
+    QCOMPARE(seen.pixel(x, seen.height() / 2), desk);
+    QCOMPARE(seen.pixel(seen.width() - 1 - x / 2, 3), desk);
+  }
+}
+
+// Windows at least as wide as a third of a small screen.
+void ReportPreviewTest::closingIsAlwaysInView_data() {
+  QTest::addColumn<QSize>("size");
+  QTest::newRow("usual") << QSize(1000, 700);
+  QTest::newRow("1366x768 at 150%") << QSize(900, 480);
+  QTest::newRow("1024x768 at 150%") << QSize(670, 480);
+  QTest::newRow("narrow") << QSize(340, 300);
+}
+
+void ReportPreviewTest::closingIsAlwaysInView() {
+  QFETCH(QSize, size);
+  PreviewCommands commands;
+  commands.print = [](ReportPreview&) {};
+  commands.save = [](ReportPreview&) {};
+  const Shown shown(1, true, commands);
+  QVERIFY(shown.complete);
+  shown.window->resize(size);
+  QTRY_COMPARE(shown.window->size(), size);
+  const auto* const close = shown.find<QToolButton>("button-close");
+  QVERIFY(close->isVisible());
+  const QRect place(close->mapTo(shown.window.get(), QPoint()), close->size());
+  QVERIFY(shown.window->rect().contains(place));
+  QCOMPARE(close->visibleRegion(), QRegion(close->rect()));
+  QCOMPARE(close->text(), QStringLiteral("Fechar"));
+  QVERIFY(close->width() >= close->sizeHint().width());
+  shown.click("button-close");
+  QVERIFY(!shown.window->isVisible());
 }
 
 void ReportPreviewTest::fittedZoomFollowsTheWindow() {
