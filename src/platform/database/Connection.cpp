@@ -29,11 +29,11 @@ QString dataSource(const QString& connectionText) {
 Connection::Connection() = default;
 Connection::~Connection() = default;
 
-void Connection::open(const QString& connectionText) {
+void Connection::open(const QString& connectionText, const SchemaSteps& steps) {
   if (session_) {
     throw RuntimeError(ErrorNumber::ObjectOpen);
   }
-  session_ = std::make_shared<SqliteSession>(nativePath(dataSource(connectionText)));
+  session_ = std::make_shared<SqliteSession>(nativePath(dataSource(connectionText)), steps);
 }
 
 void Connection::close() {

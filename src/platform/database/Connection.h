@@ -1,6 +1,7 @@
 // The connection to the one database file of a run.
 //
-// A file is opened as it stands and never changed by the opening. Errors of open(): 3024 the file
+// A file is opened as it stands and never changed by the opening, but for one of an older version of
+// the program, which the steps that the caller names bring forward. Errors of open(): 3024 the file
 // does not exist; 3044 the path leads to nothing that can be opened: it is empty, a folder or
 // malformed, the folder does not exist, the file cannot be read, is empty, or is no database of
 // this program (the description says which; an Access file is recognised by its head and named as
@@ -10,6 +11,7 @@
 #include <QString>
 #include <memory>
 
+#include "platform/database/SchemaSteps.h"
 #include "platform/database/dialect/Catalogue.h"
 
 namespace quartela {
@@ -27,8 +29,9 @@ class Connection {
   Connection& operator=(const Connection&) = delete;
 
   // `connectionText` is "Provider=...;Data Source=PATH;", further settings are passed over. Paths
-  // take both separators. Error 3705 when it is open already.
-  void open(const QString& connectionText);
+  // take both separators. A file older than the last of `steps` is copied beside itself and brought
+  // forward; a newer one is refused (3044). Error 3705 when it is open already.
+  void open(const QString& connectionText, const SchemaSteps& steps = {});
   // Rolls an open transaction back and leaves one file. Closing twice is no error.
   void close();
   State state() const;

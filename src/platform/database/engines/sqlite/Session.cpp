@@ -7,6 +7,7 @@
 #include "platform/database/engines/sqlite/FileCheck.h"
 #include "platform/database/engines/sqlite/Latin.h"
 #include "platform/database/engines/sqlite/Statement.h"
+#include "platform/database/engines/sqlite/Upgrade.h"
 #include "platform/values/RuntimeError.h"
 
 namespace quartela {
@@ -103,15 +104,16 @@ void WriteScope::undoStatement() {
 using sqlite::Activity;
 using sqlite::run;
 
-SqliteSession::SqliteSession(const QString& path) {
+SqliteSession::SqliteSession(const QString& path, const SchemaSteps& steps) {
   sqlite::checkFile(path);
   const bool writable = sqlite::canBeWritten(path);
   try {
     db_ = writable ? sqlite::openHandle(sqlite::uriOf(path), SQLITE_OPEN_READWRITE)
                    : sqlite::openForReading(path);
+    sqlite::bringForward(handle(), path, writable, steps);
     catalogue_ = sqlite::readCatalogue(handle());
   } catch (const RuntimeError& error) {
-    if (error.code() != ErrorNumber::InvalidPath) {
+    if (error.code() != ErrorNumber::InvalidPath || error.description().contains(path)) {
       throw;
     }
     sqlite::refuse(path, error);

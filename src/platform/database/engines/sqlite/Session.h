@@ -14,6 +14,7 @@
 #include <string>
 #include <unordered_map>
 
+#include "platform/database/SchemaSteps.h"
 #include "platform/database/dialect/Catalogue.h"
 #include "platform/database/engines/sqlite/Statement.h"
 
@@ -33,8 +34,8 @@ class WriteScope;
 class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
  public:
   // Opens the file; the errors are those of Connection::open. A file or folder that is protected
-  // against writing is opened for reading.
-  explicit SqliteSession(const QString& path);
+  // against writing is opened for reading. An older one is brought forward by `steps`.
+  explicit SqliteSession(const QString& path, const SchemaSteps& steps = {});
   // Rolls back what is open and leaves one file.
   ~SqliteSession();
   SqliteSession(const SqliteSession&) = delete;

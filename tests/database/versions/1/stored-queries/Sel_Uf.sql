@@ -1,0 +1,3 @@
+SELECT DISTINCT Cidades.uf
+FROM Cidades
+ORDER BY Cidades.uf;
