@@ -215,17 +215,14 @@ CREATE TABLE Viagem (
 );
 
 -- Transport sheets, numbered by PLANILHA within a process; HSAIDA and HCHEGADA are kilometres on
--- the odometer. The columns' order counts.
+-- the odometer, DATA a day as it was written. The columns' order counts.
 CREATE TABLE IdentificaTransp (
   ITEM INTEGER PRIMARY KEY AUTOINCREMENT CHECK (ITEM BETWEEN 1 AND 2147483647),
   PLANILHA SMALLINT
     CHECK (typeof(PLANILHA) IN ('integer', 'null') AND PLANILHA BETWEEN -32768 AND 32767),
   PROCESSO INTEGER
     CHECK (typeof(PROCESSO) IN ('integer', 'null') AND PROCESSO BETWEEN -2147483648 AND 2147483647),
-  DATA DATETIME
-    CHECK (typeof(DATA) IN ('text', 'null') AND length(DATA) = 19
-           AND datetime(DATA, '+0 days') IS DATA
-           AND substr(DATA, 1, 4) >= '0100'),
+  DATA TEXT CHECK (typeof(DATA) IN ('text', 'null')),
   DESTINO TEXT CHECK (typeof(DESTINO) IN ('text', 'null')),
   LOCALIDADE TEXT CHECK (typeof(LOCALIDADE) IN ('text', 'null')),
   "VEÍCULO" TEXT CHECK (typeof("VEÍCULO") IN ('text', 'null')),

@@ -2,6 +2,7 @@
 #include "database/RowWriter.h"
 #include "demonstration/Names.h"
 #include "demonstration/Sheets.h"
+#include "platform/values/Format.h"
 
 namespace quartela::demonstration {
 
@@ -12,6 +13,10 @@ using database::RowWriter;
 // A process of transport gets at most so many sheets, all of them together at most so many.
 constexpr std::int32_t kSheetsOfProcess = 4;
 constexpr std::int32_t kMostSheets = 8'000;
+
+std::string written(DateTime day) {
+  return Format(Value(day), u"dd/MM/yyyy").toStdString();
+}
 
 class TransportMaker {
  public:
@@ -51,7 +56,7 @@ class TransportMaker {
     const std::string driver = personName(random_).text;
     const std::string companion = random_.chance(50) ? personName(random_).text : std::string();
     const std::int32_t sheet =
-        sheets_.add(number, process.commitment, day, "Zona rural",
+        sheets_.add(number, process.commitment, written(day), "Zona rural",
                     "Córrego do Ouro e Serra da Mata", drive.car, drive.plate, drive.from, drive.to,
                     driver, companion, "", "Transporte de alunos e materiais");
     const std::int32_t documents = random_.between(1, 4);
