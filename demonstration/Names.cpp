@@ -82,6 +82,9 @@ constexpr std::array kVehicles = {
 constexpr std::array kDocumentKinds = {Words("Nf"), Words("Nf"),     Words("Nfc-E"),
                                        Words("Cf"), Words("Recibo"), Words("Nfs-E")};
 
+// What the field of a note's identification takes.
+constexpr std::size_t kDocumentLength = 10;
+
 char letter(Random& random) {
   return static_cast<char>('A' + random.below(26));
 }
@@ -164,7 +167,12 @@ std::string_view roadSupplier(Random& random) {
 
 std::string documentNumber(Random& random) {
   std::string text(random.pick(kDocumentKinds));
-  return text.append(" ").append(digits(random.between(1, 98'999), 1));
+  text += ' ';
+  std::int32_t most = 1;
+  for (std::size_t length = text.size(); length < kDocumentLength; ++length) {
+    most *= 10;
+  }
+  return text.append(digits(random.between(1, 98'999) % (most - 1) + 1, 1));
 }
 
 std::string timeOfDay(Random& random, std::int32_t firstHour, std::int32_t lastHour) {

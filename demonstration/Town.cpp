@@ -72,10 +72,10 @@ constexpr std::array kModels = {
               "Combustível, pedágio e pequenos reparos de veículos em serviço."},
     TypeModel{Purpose::Other, "Eventos", "339032 - Outros Materiais de Distribuição Gratuita",
               "60 dias", 60, "Material de divulgação, premiação e apoio a eventos do município."},
-    TypeModel{Purpose::Other, "Manutenção de veículos",
+    TypeModel{Purpose::Other, "Manutenção veicular",
               "339036 - Outros Serviços de Terceiros (Fisica)", "30 dias", 30,
               "Serviços de mecânica, borracharia e elétrica de pequena monta."},
-    TypeModel{Purpose::Journey, "Tratamento fora do domicílio", "339033 - Passagens e Locomoções",
+    TypeModel{Purpose::Journey, "Trat. fora domicílio", "339033 - Passagens e Locomoções",
               "30 dias", 30, "Transporte e alimentação de pacientes e acompanhantes."}};
 
 // Which models a secretariat has beyond the first three, by its place in the list above.
