@@ -23,18 +23,37 @@ constexpr std::int32_t kDaysOfFewYears = 1'680;
 // Older processes are settled: their longest period is over.
 constexpr std::int32_t kRecentDays = 75;
 
+// The office's counter is one for both databases, so that the numbers of this year in the
+// demonstration leave room for those that the office will give. The process screen opens numbers of
+// 16 bits: 0327 is the last of most years.
+constexpr std::int32_t kNumbersLeftFree = 200;
+constexpr std::int32_t kLastNumber = 327;
+// A town of that size keeps to it; the share of this year in a larger one is the same.
+constexpr std::int32_t kUsualTown = 900;
+
+std::int32_t mostOfThisYear(std::int32_t count) {
+  return std::max(kLastNumber - kNumbersLeftFree,
+                  static_cast<std::int32_t>(std::int64_t{count} * (kLastNumber - kNumbersLeftFree) /
+                                            kUsualTown));
+}
+
+std::int32_t countOfRecent(std::int32_t count) {
+  return std::min(count, std::max(std::clamp(count / 8, 14, 60), std::min(count / 15, 600)));
+}
+
 class Planner {
  public:
   Planner(const Town& town, Random& random, DateTime today)
       : town_(town), random_(random), today_(today) {}
 
   std::vector<Process> plan(std::int32_t count) {
-    const std::int32_t recent = std::min(count, std::clamp(count / 8, 14, 600));
+    const std::int32_t recent = countOfRecent(count);
+    roomThisYear_ = mostOfThisYear(count) - recent;
     const std::int32_t span = std::max(kDaysOfFewYears, count / kProcessesPerYear * 366 + 366);
     std::vector<Process> processes;
     processes.reserve(static_cast<std::size_t>(count));
     for (std::int32_t i = 0; i < count - recent; ++i) {
-      processes.push_back(settled(today_.addDays(-random_.between(kRecentDays, span))));
+      processes.push_back(settled(dayOfRequest(span)));
     }
     for (std::int32_t i = 0; i < recent; ++i) {
       processes.push_back(
@@ -46,6 +65,16 @@ class Planner {
   }
 
  private:
+  DateTime dayOfRequest(std::int32_t span) {
+    const auto draw = [&] { return today_.addDays(-random_.between(kRecentDays, span)); };
+    DateTime day = draw();
+    while (day.year() == today_.year() && roomThisYear_ == 0) {
+      day = draw();
+    }
+    roomThisYear_ -= day.year() == today_.year() ? 1 : 0;
+    return day;
+  }
+
   Process settled(DateTime requested) {
     Process process = draft(settledStage(), 0);
     process.requested = requested;
@@ -121,6 +150,7 @@ class Planner {
   const Town& town_;
   Random& random_;
   DateTime today_;
+  std::int32_t roomThisYear_ = 0;
 };
 
 // Running number and two-digit year in one number.
@@ -128,8 +158,9 @@ std::int32_t processNumber(std::int32_t running, std::int32_t year) {
   return running * 100 + year % 100;
 }
 
-void giveNumbers(std::vector<Process>& processes, Random& random) {
+void giveNumbers(std::vector<Process>& processes, Random& random, DateTime today) {
   std::map<std::int32_t, std::int32_t> lastNumber;
+  lastNumber[today.year()] = kNumbersLeftFree;
   std::map<std::int32_t, std::int32_t> lastCommitment;
   for (Process& process : processes) {
     const std::int32_t year = process.requested.year();
@@ -222,7 +253,7 @@ DateTime Process::lastDay(DateTime today) const {
 std::vector<Process> planProcesses(const Town& town, Random& random, DateTime today,
                                    std::int32_t count, std::int32_t notes) {
   std::vector<Process> processes = Planner(town, random, today).plan(count);
-  giveNumbers(processes, random);
+  giveNumbers(processes, random, today);
   giveNotes(processes, random, notes);
   return processes;
 }

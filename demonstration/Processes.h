@@ -47,7 +47,8 @@ struct Process {
 };
 
 // `count` processes in the order of their requests, the last ones in all stages, with numbers that
-// are unique, `notes` notes spread over those whose money was withdrawn. `town` must outlive them.
+// are unique (those of the year of `today` from 0201 on), `notes` notes spread over those whose
+// money was withdrawn. `town` must outlive them.
 std::vector<Process> planProcesses(const Town& town, Random& random, DateTime today,
                                    std::int32_t count, std::int32_t notes);
 

@@ -1,8 +1,5 @@
 // make_database: makes a database file, empty but for the reference data or with demonstration
-// data; or tells the last process number of this year in one, for its counter file.
-
-#include <sqlite3.h>
-
+// data.
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
@@ -19,14 +16,13 @@ using quartela::ErrorNumber;
 using quartela::RuntimeError;
 
 struct Arguments {
-  QString numbered;
   QString empty;
   QString demonstration;
   bool replace = false;
   quartela::demonstration::Options options;
 
   bool asksForOneThing() const {
-    return !numbered.isEmpty() + !empty.isEmpty() + !demonstration.isEmpty() == 1;
+    return empty.isEmpty() != demonstration.isEmpty();
   }
 };
 
@@ -60,7 +56,6 @@ void addOptions(QCommandLineParser& parser) {
   parser.addHelpOption();
   parser.addOptions({{"empty", "Only the reference data, into <file>.", "file"},
                      {"demonstration", "A town with its processes, into <file>.", "file"},
-                     {"last-number", "Prints the last running number of the year in <file>.", "file"},
                      {"processes", "How many processes (900).", "count"},
                      {"notes", "How many notes in all (seven a process).", "count"},
                      {"seed", "Another seed, other people and sums (1).", "number"},
@@ -70,7 +65,6 @@ void addOptions(QCommandLineParser& parser) {
 
 Arguments read(const QCommandLineParser& parser) {
   Arguments arguments;
-  arguments.numbered = parser.value("last-number");
   arguments.empty = parser.value("empty");
   arguments.demonstration = parser.value("demonstration");
   arguments.replace = parser.isSet("replace");
@@ -103,29 +97,7 @@ void makeFile(const QString& path, bool replace, Make make) {
   }
 }
 
-// The running number of the last process of that year, 0 without one.
-int lastNumber(const QString& path, int year) {
-  sqlite3* database = nullptr;
-  sqlite3_stmt* query = nullptr;
-  int number = -1;
-  if (sqlite3_open_v2(path.toUtf8().constData(), &database, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK &&
-      sqlite3_prepare_v2(database, "SELECT max(SEQ / 100) FROM Requisicao WHERE SEQ % 100 = ?1", -1,
-                         &query, nullptr) == SQLITE_OK &&
-      sqlite3_bind_int(query, 1, year % 100) == SQLITE_OK && sqlite3_step(query) == SQLITE_ROW) {
-    number = sqlite3_column_int(query, 0);
-  }
-  sqlite3_finalize(query);
-  sqlite3_close(database);
-  if (number < 0) {
-    throw RuntimeError(ErrorNumber::DatabaseNotFound, path);
-  }
-  return number;
-}
-
 void make(const Arguments& arguments) {
-  if (!arguments.numbered.isEmpty()) {
-    std::printf("%d\n", lastNumber(arguments.numbered, arguments.options.today.year()));
-  }
   if (!arguments.empty.isEmpty()) {
     makeFile(arguments.empty, arguments.replace, quartela::database::createEmptyDatabase);
   }

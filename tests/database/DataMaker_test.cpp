@@ -60,6 +60,7 @@ class DataMakerTest : public QObject {
   void taxpayerNumbersAreRight();
   void checkDigitsOfAKnownNumber();
   void yearsTakeFourDigitNumbers();
+  void deliveredProcessesCanBeOpened_data();
   void deliveredProcessesCanBeOpened();
   void oddSizes_data();
   void oddSizes();
@@ -184,8 +185,11 @@ void DataMakerTest::rulesHold_data() {
       "Tipos WHERE TIPO NOT IN (SELECT FINALIDADE FROM Finalidade)");
   add("process numbers end in the year", "Requisicao WHERE SEQ % 100 <> substr(DATA, 3, 2) + 0");
   add("running numbers have no gap",
-      "(SELECT count(*) AS c, max(SEQ / 100) AS m FROM Requisicao GROUP BY SEQ % 100) "
-      "WHERE c <> m");
+      "(SELECT count(*) AS c, max(SEQ / 100) AS m, min(SEQ / 100) AS f FROM Requisicao "
+      "GROUP BY SEQ % 100) WHERE c <> m - f + 1");
+  add("years begin with their first number, this one with its 201st",
+      "(SELECT min(SEQ / 100) AS f, SEQ % 100 AS y FROM Requisicao GROUP BY 2) "
+      "WHERE f <> CASE y WHEN 14 THEN 201 ELSE 1 END");
   add("running numbers follow the dates",
       "Requisicao a JOIN Requisicao b ON b.SEQ = a.SEQ + 100 WHERE b.DATA < a.DATA");
   add("empenho numbers end in the year",
@@ -225,6 +229,14 @@ void DataMakerTest::rulesHold_data() {
       "WHERE c.distancia IS NOT v.DISTANCIA");
   add("transport is of commitments",
       "IdentificaTransp WHERE PROCESSO NOT IN (SELECT EMPENHO FROM Adiantamento)");
+  add("transport sheets bear their day as it is written",
+      "(SELECT DATA AS d, substr(DATA, 7) || '-' || substr(DATA, 4, 2) || '-' || "
+      "substr(DATA, 1, 2) AS day FROM IdentificaTransp) "
+      "WHERE date(day, '+0 days') IS NOT day OR length(d) <> 10 OR substr(d, 3, 1) <> '/' OR "
+      "substr(d, 6, 1) <> '/'");
+  add("documents are of the sheet's day",
+      "IdentificaTransp s JOIN ItensTransp d ON d.IDENT_TRANSP = s.ITEM WHERE "
+      "strftime('%d/%m/%Y', d.DATADOC) <> s.DATA");
   add("odometers run forward", "IdentificaTransp WHERE HCHEGADA <= HSAIDA");
   add("orderers order for their secretariat",
       "Requisicao r JOIN Executor e ON e.ORDEM = r.ORGAO JOIN Tipos t ON t.SEQUENCIA = "
@@ -277,15 +289,29 @@ void DataMakerTest::yearsTakeFourDigitNumbers() {
   QVERIFY(plain.number("SELECT max(EMPENHO / 100) FROM Adiantamento") <= 99'999);
 }
 
+void DataMakerTest::deliveredProcessesCanBeOpened_data() {
+  QTest::addColumn<DateTime>("today");
+  QTest::newRow("first day of a year") << DateTime::of(2014, 1, 1);
+  QTest::newRow("early in the year") << DateTime::of(2014, 3, 15);
+  QTest::newRow("middle of the year") << DateTime::of(2014, 7, 1);
+  QTest::newRow("last day of a year") << DateTime::of(2014, 12, 31);
+}
+
 // The process screen opens numbers of 16 bits only: in the delivered data that is every process.
+// The counter file is one for both databases: the first 200 numbers of this year are free.
 void DataMakerTest::deliveredProcessesCanBeOpened() {
+  QFETCH(const DateTime, today);
   demonstration::Options options;
-  options.today = DateTime::of(2014, 12, 31);
+  options.today = today;
   const QString path = folder_.filePath("entrega.mdb");
+  QFile::remove(path);
   demonstration::makeDatabase(path, options);
   PlainDatabase plain(path);
   QCOMPARE(plain.number("SELECT count(*) FROM Requisicao"), 900);
   QVERIFY(plain.number("SELECT max(SEQ) FROM Requisicao") <= 32'767);
+  QCOMPARE(plain.number("SELECT count(*) FROM Requisicao WHERE SEQ % 100 = 14 AND "
+                        "SEQ / 100 NOT BETWEEN 201 AND 327"),
+           0);
 }
 
 void DataMakerTest::oddSizes_data() {

@@ -19,7 +19,6 @@ class MakeDatabaseTest : public QObject {
   void empty();
   void demonstration();
   void sameArgumentsSameRows();
-  void lastNumber();
   void existingFileNeedsReplace();
   void wrongArguments_data();
   void wrongArguments();
@@ -69,20 +68,6 @@ void MakeDatabaseTest::sameArgumentsSameRows() {
   QCOMPARE(run(QStringList{"--demonstration", file("a.mdb")} + rest), 0);
   QCOMPARE(run(QStringList{"--demonstration", file("b.mdb")} + rest), 0);
   QCOMPARE(PlainDatabase(file("a.mdb")).contentHash(), PlainDatabase(file("b.mdb")).contentHash());
-}
-
-void MakeDatabaseTest::lastNumber() {
-  const QString path = file("a.mdb");
-  QCOMPARE(run({"--demonstration", path, "--processes", "50", "--today", "2014-11-21"}), 0);
-  QCOMPARE(run({"--last-number", path, "--today", "2014-12-31"}), 0);
-  const int last = PlainDatabase(path).number(
-      "SELECT max(SEQ / 100) FROM Requisicao WHERE DATA >= '2014-01-01 00:00:00'");
-  QVERIFY(last > 0);
-  QCOMPARE(printed_, QString::number(last) + "\n");
-  QCOMPARE(run({"--last-number", path, "--today", "2030-01-01"}), 0);
-  QCOMPARE(printed_, QString("0\n"));
-  QCOMPARE(run({"--last-number", file("missing.mdb")}), 1);
-  QVERIFY(errors_.startsWith("make_database: 3024"));
 }
 
 void MakeDatabaseTest::existingFileNeedsReplace() {
