@@ -19,6 +19,7 @@ class MakeDatabaseTest : public QObject {
   void empty();
   void demonstration();
   void sameArgumentsSameRows();
+  void freshDeliveryCountsFromZero();
   void existingFileNeedsReplace();
   void wrongArguments_data();
   void wrongArguments();
@@ -68,6 +69,31 @@ void MakeDatabaseTest::sameArgumentsSameRows() {
   QCOMPARE(run(QStringList{"--demonstration", file("a.mdb")} + rest), 0);
   QCOMPARE(run(QStringList{"--demonstration", file("b.mdb")} + rest), 0);
   QCOMPARE(PlainDatabase(file("a.mdb")).contentHash(), PlainDatabase(file("b.mdb")).contentHash());
+}
+
+// One counter file for both databases of a fresh delivery: the numbers that it gives first are free
+// in the demonstration.
+void MakeDatabaseTest::freshDeliveryCountsFromZero() {
+  const QDir build(folder_->filePath("build"));
+  QVERIFY(build.mkpath("bin"));
+  QFile program(build.filePath("bin/quartela"));
+  QVERIFY(program.open(QIODevice::WriteOnly));
+  program.close();
+  QVERIFY(QFile::link(inBuild(QStringLiteral("bin/make_database")),
+                      build.filePath("bin/make_database")));
+  QCOMPARE(QProcess::execute(inSource(QStringLiteral("packaging/lay-out")),
+                             {build.path(), file("delivery")}),
+           0);
+  QFile counter(file("delivery/Number.Ini"));
+  QVERIFY(counter.open(QIODevice::ReadOnly));
+  const int year = QDate::currentDate().year();
+  QCOMPARE(counter.readAll(), "[Contador]\r\nano=" + QByteArray::number(year) + "\r\nnumber=0\r\n");
+  PlainDatabase demonstration(file("delivery/Demonstracao.mdb"));
+  const QByteArray thisYear =
+      "SELECT count(*) FROM Requisicao WHERE SEQ % 100 = " + QByteArray::number(year % 100);
+  QCOMPARE(demonstration.number(thisYear + " AND SEQ / 100 <= 200"), 0);
+  QCOMPARE(demonstration.number(thisYear + " AND SEQ / 100 > 327"), 0);
+  QCOMPARE(PlainDatabase(file("delivery/Banco.mdb")).number("SELECT count(*) FROM Requisicao"), 0);
 }
 
 void MakeDatabaseTest::existingFileNeedsReplace() {
