@@ -5,4 +5,5 @@ SELECT Requisicao.SEQ, Requisicao.DATA, Requisicao.VALOR, Requisicao.JUSTIFICATI
 FROM (((Requisicao LEFT JOIN Executor ON Requisicao.ORGAO = Executor.ORDEM)
      LEFT JOIN Orgao ON Executor.IDORGAO = Orgao.IDORGAO)
      LEFT JOIN Tomador ON Requisicao.TOMADOR = Tomador.ID)
-     LEFT JOIN Tipos ON Requisicao.FINALIDADE = Tipos.SEQUENCIA;
+     LEFT JOIN Tipos ON Requisicao.FINALIDADE = Tipos.SEQUENCIA
+ORDER BY Requisicao.SEQ;

@@ -5,4 +5,5 @@ SELECT ReqAvulso.SEQ, ReqAvulso.DATA, ReqAvulso.VALOR, ReqAvulso.JUSTIFICATIVA, 
 FROM (((ReqAvulso LEFT JOIN Executor ON ReqAvulso.ORGAO = Executor.ORDEM)
      LEFT JOIN Orgao ON Executor.IDORGAO = Orgao.IDORGAO)
      LEFT JOIN Tomador ON ReqAvulso.TOMADOR = Tomador.ID)
-     LEFT JOIN Tipos ON ReqAvulso.FINALIDADE = Tipos.SEQUENCIA;
+     LEFT JOIN Tipos ON ReqAvulso.FINALIDADE = Tipos.SEQUENCIA
+ORDER BY ReqAvulso.SEQ;

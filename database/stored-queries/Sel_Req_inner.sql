@@ -6,4 +6,5 @@ FROM ((((Requisicao INNER JOIN Adiantamento ON Requisicao.SEQ = Adiantamento.PRO
      LEFT JOIN Executor ON Requisicao.ORGAO = Executor.ORDEM)
      LEFT JOIN Orgao ON Executor.IDORGAO = Orgao.IDORGAO)
      LEFT JOIN Tomador ON Requisicao.TOMADOR = Tomador.ID)
-     LEFT JOIN Tipos ON Requisicao.FINALIDADE = Tipos.SEQUENCIA;
+     LEFT JOIN Tipos ON Requisicao.FINALIDADE = Tipos.SEQUENCIA
+ORDER BY Requisicao.SEQ, Adiantamento.EMPENHO;

@@ -2,4 +2,5 @@ SELECT Viagem.ITEM, Viagem.ORGAO, Viagem.VEICULO, Viagem.MOTIVO, Viagem.LOCALIDA
        Viagem.DISTANCIA, Viagem.PLACA, Viagem.DATA_SAIDA, Viagem.DATA_CHEGADA, Viagem.HSAIDA,
        Viagem.HCHEGADA, Viagem.DESTINO, Viagem.UF, Viagem.PARTICIPANTES, Viagem.OBS,
        Viagem.MOTORISTA
-FROM Viagem;
+FROM Viagem
+ORDER BY Viagem.ITEM;

@@ -124,6 +124,9 @@ class StoredQueriesTest : public QObject {
         R"(1) AND ("Executor"."IDORGAO" = 4) ORDER BY "Executor"."NOME" COLLATE LATIN_NOCASE)");
     row("an order of the statement's own", "SELECT Max(ORDEM) FROM Sel_Ativos",
         R"(SELECT max("Executor"."ORDEM") FROM "Executor" WHERE ("Executor"."ATIVO" = 1))");
+    row("DISTINCT of the statement's own", "SELECT DISTINCT NOME FROM Sel_Ativos",
+        R"(SELECT DISTINCT "Executor"."NOME" COLLATE LATIN_NOCASE FROM "Executor" WHERE )"
+        R"(("Executor"."ATIVO" = 1))");
     row("a query on a query", "SELECT NOME FROM Sel_Sobre_ativos ORDER BY ORDEM",
         R"(SELECT "Executor"."NOME", "Executor"."ORDEM" FROM "Executor" WHERE ("Executor"."ATIVO" = )"
         R"(1) AND latin_like('A%', "Executor"."NOME") ORDER BY "Executor"."ORDEM")");
