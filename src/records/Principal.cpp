@@ -1,5 +1,7 @@
 #include "records/Principal.h"
 
+#include <utility>
+
 #include "platform/controls/ListView.h"
 #include "records/cTodos.h"
 
@@ -13,17 +15,23 @@ namespace {
 
 ListView* lista_registrada = nullptr;
 StatusBar* barra_registrada = nullptr;
+std::function<void(std::int16_t)> ao_listar;
 
 }  // namespace
 
-void registra_lista_principal(ListView* lista, StatusBar* barra) {
+void registra_lista_principal(ListView* lista, StatusBar* barra,
+                              std::function<void(std::int16_t)> listada) {
   lista_registrada = lista;
   barra_registrada = barra;
+  ao_listar = std::move(listada);
 }
 
 void Lista_principal(std::int16_t codigo) {
   if (lista_registrada != nullptr && barra_registrada != nullptr) {
     cTodos::compartilhada().Lista_Movimento(*lista_registrada, codigo, *barra_registrada);
+    if (ao_listar) {
+      ao_listar(codigo);
+    }
   }
 }
 

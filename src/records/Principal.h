@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 
 namespace quartela {
 
@@ -21,8 +22,10 @@ extern std::int16_t FiltroStatus;
 // It is not cleared when the list is refilled, nor when that process is deleted.
 extern QString Tag_principal;
 
-// The main window lends its list and status bar; null takes them back. Not owned.
-void registra_lista_principal(ListView* lista, StatusBar* barra);
+// The main window lends its list and status bar; null takes them back. Not owned. `listada` is told
+// the code of each listing.
+void registra_lista_principal(ListView* lista, StatusBar* barra,
+                              std::function<void(std::int16_t codigo)> listada = {});
 
 // Refills the main list under a code of cTodos::Lista_Movimento; without a main window it does
 // nothing.

@@ -2,25 +2,20 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QProcess>
 #include <QScreen>
+#include <QShortcut>
+#include <algorithm>
 #include <array>
 
 #include "foundation/Banco.h"
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
-#include "foundation/UmaJanela.h"
-#include "foundation/frmConfigura.h"
-#include "masterdata/frmDotacao.h"
-#include "masterdata/frmExecutor.h"
-#include "masterdata/frmLei.h"
-#include "masterdata/frmOrgao.h"
-#include "masterdata/frmTipoDespesa.h"
-#include "masterdata/frmTipos.h"
-#include "masterdata/frmTomador.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/OpenForms.h"
 #include "platform/controls/StatusBar.h"
@@ -31,10 +26,7 @@
 #include "records/cRequisicao.h"
 #include "reports/Relatorios.h"
 #include "screens/frmAviso.h"
-#include "screens/frmCadastro.h"
-#include "screens/frmLocalizar.h"
-#include "screens/frmReqAvulso.h"
-#include "shell/ComandosRibbon.h"
+#include "shell/Comandos.h"
 #include "shell/Imagens.h"
 #include "shell/ribbon/FaixaRibbon.h"
 
@@ -45,10 +37,10 @@ constexpr int kAlturaRibbon = 1740;  // twips, as are all measures here
 constexpr int kAlturaBarra = 360;
 constexpr int kTopoLista = 1725;
 constexpr int kFolgaLista = 20;
+constexpr int kAlturaGuias = 360;
+constexpr int kFolgaFiltro = 12;      // pixels
 constexpr int kAvisoDepoisDe = 1000;  // milliseconds
 constexpr std::int16_t kFiltroInicial = 1;
-constexpr std::int16_t kInclui = 0;
-constexpr std::int16_t kAltera = -1;
 constexpr std::int16_t kTemaAzul = 1;
 const QString kAviso = QStringLiteral("Aviso");
 
@@ -71,32 +63,10 @@ QString texto(const char* utf8) {
   return QString::fromUtf8(utf8);
 }
 
-// Closes the window where it is open.
-template <typename Janela>
-bool estava_aberta() {
-  return FormAberto(QString::fromLatin1(Janela::staticMetaObject.className()).section(':', -1));
-}
-
-// The button of a window that is open closes it.
-template <typename Janela>
-void alterna() {
-  if (!estava_aberta<Janela>()) {
-    UmaJanela<Janela>::mostra();
-  }
-}
-
-void inclui_processo() {
-  if (!estava_aberta<frmCadastro>()) {
-    ModoAlteracao = kInclui;
-    UmaJanela<frmCadastro>::mostra();
-  }
-}
-
-void altera_processo() {
-  if (!estava_aberta<frmCadastro>() && !Tag_principal.isEmpty()) {
-    ModoAlteracao = kAltera;
-    UmaJanela<frmCadastro>::mostra();
-  }
+// With the key that does the same, at the right of the menu.
+QString linha_do_menu(const Comando& comando) {
+  const char* const tecla = comando.tecla != nullptr ? comando.tecla : comando.atalho;
+  return texto(comando.menu) + QLatin1Char('\t') + texto(tecla);
 }
 
 }  // namespace
@@ -104,7 +74,9 @@ void altera_processo() {
 frmOficce::frmOficce(QWidget* parent)
     : QWidget(parent),
       ImageList_(imagens_do_ribbon()),
+      txtkey(new QLineEdit(this)),
       ribbon_(new FaixaRibbon(this)),
+      lblFiltro_(new QLabel(ribbon_)),
       lista_(new ListView(this)),
       barra_(new StatusBar(this)) {
   setObjectName(QStringLiteral("frmOficce"));
@@ -112,9 +84,12 @@ frmOficce::frmOficce(QWidget* parent)
   resize(QSize(1340, 690).boundedTo(screen()->availableSize()));
   setMinimumSize(640, 360);
   OpenForms::setMainWindow(this);
+  prepara_chave();
+  prepara_filtro();
   prepara_lista();
   prepara_barra();
   liga_eventos();
+  liga_atalhos();
   Form_Load();
 }
 
@@ -125,7 +100,7 @@ frmOficce::~frmOficce() {
 void frmOficce::Form_Load() {
   MontaRibbon();
   registra_relatorios();
-  registra_lista_principal(lista_, barra_);
+  registra_lista_principal(lista_, barra_, [this](std::int16_t codigo) { mostra_filtro(codigo); });
   FiltroStatus = kFiltroInicial;
   Lista_principal(kFiltroInicial);
   Timer1.start(kAvisoDepoisDe);
@@ -136,17 +111,22 @@ void frmOficce::MontaRibbon() {
   ribbon_->setImageList(ImageList_.get());
   ribbon_->setTheme(kTemaAzul);
   ribbon_->setButtonCenter(false);
-  for (const GuiaRibbon& guia : kGuias) {
+  for (const GuiaRibbon& guia : guias()) {
     ribbon_->AddTab(texto(guia.chave), texto(guia.titulo));
   }
-  for (const CategoriaRibbon& categoria : kCategorias) {
+  for (const CategoriaRibbon& categoria : categorias()) {
     ribbon_->AddCat(texto(categoria.chave), texto(categoria.guia), texto(categoria.titulo), false);
   }
-  for (const BotaoRibbon& botao : kBotoes) {
-    ribbon_->AddButton(texto(botao.chave), texto(botao.categoria), texto(botao.titulo),
-                       static_cast<std::int16_t>(botao.imagem));
+  for (const Comando& botao : comandos()) {
+    if (botao.categoria != nullptr) {
+      ribbon_->AddButton(texto(botao.chave), texto(botao.categoria), texto(botao.titulo),
+                         static_cast<std::int16_t>(botao.imagem));
+    }
   }
   ribbon_->Refresh();
+  QPalette cores = lblFiltro_->palette();
+  cores.setColor(QPalette::WindowText, ribbon_->ForeColor());
+  lblFiltro_->setPalette(cores);
 }
 
 void frmOficce::prepara_lista() {
@@ -164,20 +144,41 @@ void frmOficce::prepara_barra() {
   barra_->setObjectName(QStringLiteral("sbStatusBar"));
 }
 
+void frmOficce::prepara_chave() {
+  txtkey->setObjectName(QStringLiteral("txtkey"));
+  txtkey->setFocusPolicy(Qt::NoFocus);
+  txtkey->hide();
+}
+
+// At the end of the row of tabs, where it is seen whatever tab is active.
+void frmOficce::prepara_filtro() {
+  lblFiltro_->setObjectName(QStringLiteral("lblFiltro"));
+  lblFiltro_->setTextFormat(Qt::PlainText);
+  lblFiltro_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  lblFiltro_->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
 void frmOficce::liga_eventos() {
   connect(ribbon_, &FaixaRibbon::ButtonClick, this,
           Evento([this](const QString& id) { Ribbon_ButtonClick(id); }));
-  connect(lista_, &ListView::itemClicked, this, [this](int linha) {
-    Tag_principal = lista_->text(linha);
-    txtkey_ = Tag_principal;
-  });
+  connect(lista_, &ListView::itemClicked, this, &frmOficce::escolhe);
   connect(lista_, &ListView::itemActivated, this,
-          Evento([this] { Ribbon_ButtonClick(QStringLiteral("1")); }));
+          Evento([this](int linha) { na_linha(linha, QStringLiteral("1")); }));
   connect(lista_, &ListView::columnClicked, this,
           [this](int coluna) { Ordena_lista(*lista_, coluna); });
-  connect(lista_, &ListView::deleteRequested, this, Evento([this] { Exclui_processo(); }));
+  connect(lista_, &ListView::deleteRequested, this,
+          Evento([this](int linha) { na_linha(linha, QStringLiteral("2")); }));
   connect(lista_, &ListView::contextMenuRequested, this, &frmOficce::mostra_menu);
   connect(&Timer1, &QTimer::timeout, this, &frmOficce::Timer1_Timer);
+}
+
+void frmOficce::liga_atalhos() {
+  for (const Comando& c : comandos()) {
+    if (c.atalho != nullptr) {
+      auto* const atalho = new QShortcut(QKeySequence(QLatin1String(c.atalho)), this);
+      connect(atalho, &QShortcut::activated, this, Evento([this, &c] { executa(c, *this); }));
+    }
+  }
 }
 
 void frmOficce::Atualiza_grid() {
@@ -189,39 +190,45 @@ void frmOficce::filtra(std::int16_t filtro) {
   Atualiza_grid();
 }
 
+void frmOficce::mostra_filtro(std::int16_t codigo) {
+  filtro_ = QStringLiteral("Exibindo: ") + nome_do_filtro(codigo);
+  ajusta_filtro();
+}
+
+void frmOficce::ajusta_filtro() {
+  const int altura = Estilo::pixels(kAlturaGuias, *this);
+  const int esquerda = fim_das_guias() + kFolgaFiltro;
+  lblFiltro_->setGeometry(esquerda, 0, std::max(0, ribbon_->width() - kFolgaFiltro - esquerda),
+                          altura);
+  lblFiltro_->setText(
+      lblFiltro_->fontMetrics().elidedText(filtro_, Qt::ElideRight, lblFiltro_->width()));
+}
+
+int frmOficce::fim_das_guias() const {
+  const ribbon::ElementTable& elementos = ribbon_->elements();
+  const int ultima = elementos.count(ribbon::Element::TabMouse) - 1;
+  return static_cast<int>(elementos.at(ribbon::Element::TabMouse, ultima).right() /
+                          ribbon::kTwipsPerPixel);
+}
+
 void frmOficce::Ribbon_ButtonClick(const QString& id) {
-  const auto comando = comandos().constFind(id);
-  if (comando != comandos().constEnd()) {
-    (*comando)(*this);
+  if (const Comando* const c = comando(id)) {
+    executa(*c, *this);
   }
 }
 
-const frmOficce::Comandos& frmOficce::comandos() {
-  static const Comandos tabela{
-      {QStringLiteral("0"), [](frmOficce&) { inclui_processo(); }},
-      {QStringLiteral("1"), [](frmOficce&) { altera_processo(); }},
-      {QStringLiteral("2"), [](frmOficce& janela) { janela.Exclui_processo(); }},
-      {QStringLiteral("3"), [](frmOficce&) { mostra_frmAviso(); }},
-      {QStringLiteral("4"), [](frmOficce&) { alterna<frmLocalizar>(); }},
-      {QStringLiteral("6"), [](frmOficce&) { alterna<frmReqAvulso>(); }},
-      {QStringLiteral("9"), [](frmOficce&) { alterna<frmExecutor>(); }},
-      {QStringLiteral("10"), [](frmOficce&) { alterna<frmTomador>(); }},
-      {QStringLiteral("11"), [](frmOficce&) { alterna<frmTipos>(); }},
-      {QStringLiteral("12"), [](frmOficce&) { alterna<frmTipoDespesa>(); }},
-      {QStringLiteral("13"), [](frmOficce&) { alterna<frmDotacao>(); }},
-      {QStringLiteral("25"), [](frmOficce&) { alterna<frmOrgao>(); }},
-      {QStringLiteral("15"), [](frmOficce&) { mostra_frmConfigura(); }},
-      {QStringLiteral("18"), [](frmOficce& janela) { janela.filtra(4); }},
-      {QStringLiteral("19"), [](frmOficce& janela) { janela.filtra(2); }},
-      {QStringLiteral("20"), [](frmOficce& janela) { janela.filtra(3); }},
-      {QStringLiteral("21"), [](frmOficce& janela) { janela.filtra(0); }},
-      {QStringLiteral("22"), [](frmOficce& janela) { janela.filtra(1); }},
-      {QStringLiteral("23"),
-       [](frmOficce&) {
-         Dialogs::information(QStringLiteral("Não disponivel no momento"), kAviso);
-       }},
-  };
-  return tabela;
+void frmOficce::escolhe(int linha) {
+  Tag_principal = lista_->text(linha);
+  txtkey->setText(Tag_principal);
+}
+
+// The row that a key or the menu acts on is the one that shows as chosen. A list just filled has
+// none, although the window still remembers the one last clicked.
+void frmOficce::na_linha(int linha, const QString& chave) {
+  if (lista_->hasSelection()) {
+    escolhe(linha);
+    Ribbon_ButtonClick(chave);
+  }
 }
 
 void frmOficce::Exclui_processo() {
@@ -239,21 +246,35 @@ void frmOficce::Exclui_processo() {
   }
 }
 
-// A tick that comes while the alert is still up only stops the timer.
+// A tick that comes while the alert is still up only stops the timer, and so does one that fails.
 void frmOficce::Timer1_Timer() {
-  if (OpenForms::find(QStringLiteral("frmAviso")) == nullptr) {
-    mostra_frmAviso();
+  try {
+    if (OpenForms::find(QStringLiteral("frmAviso")) == nullptr) {
+      mostra_frmAviso();
+    }
+  } catch (const RuntimeError&) {
+    Timer1.stop();
   }
   Timer1.stop();
 }
 
-void frmOficce::mostra_menu(int, const QPoint& posicao) {
+// Beside the rows, and where none shows as chosen, the menu has nothing that acts on one.
+void frmOficce::mostra_menu(int linha, const QPoint& posicao) {
+  const bool tem_linha = linha >= 0 && lista_->hasSelection();
   QMenu menu(this);
-  menu.addAction(QStringLiteral("&Alterar requisição"), this,
-                 [this] { Ribbon_ButtonClick(QStringLiteral("1")); });
-  menu.addAction(QStringLiteral("&Excluir requisição"), this, &frmOficce::Exclui_processo);
-  menu.addSeparator();
-  menu.addAction(QStringLiteral("&Incisos"), this, [] { alterna<frmLei>(); });
+  bool da_linha = false;
+  for (const Comando& c : comandos()) {
+    if (c.menu == nullptr || (c.da_linha && !tem_linha)) {
+      continue;
+    }
+    if (da_linha && !c.da_linha) {
+      menu.addSeparator();
+    }
+    da_linha = c.da_linha;
+    menu.addAction(linha_do_menu(c), this, Evento([this, &c, linha] {
+                     c.da_linha ? na_linha(linha, texto(c.chave)) : executa(c, *this);
+                   }));
+  }
   menu.exec(posicao);
 }
 
@@ -274,6 +295,7 @@ void frmOficce::resizeEvent(QResizeEvent* event) {
   lista_->setGeometry(0, pixels(kTopoLista), width() - pixels(kFolgaLista),
                       height() - altura_barra - altura_ribbon);
   barra_->setGeometry(0, height() - altura_barra, width(), altura_barra);
+  ajusta_filtro();
 }
 
 void frmOficce::paintEvent(QPaintEvent*) {

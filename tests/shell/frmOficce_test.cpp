@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
@@ -18,9 +19,10 @@
 #include "records/cRequisicao.h"
 #include "screens/frmAviso.h"
 #include "screens/frmLocalizar.h"
-#include "shell/ComandosRibbon.h"
+#include "shell/Comandos.h"
 #include "shell/Imagens.h"
 #include "shell/ribbon/FaixaRibbon.h"
+#include "tests/shell/ribbon/ToldRibbon.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/office/Boxes.h"
 #include "tests/support/office/OfficeMain.h"
@@ -90,13 +92,49 @@ class frmOficceTest : public QObject {
 
   void theRibbonHoldsTheWholeTable() {
     const auto& model = window_->Ribbon().model();
-    QCOMPARE(std::size_t(model.tabCount()), kGuias.size());
-    QCOMPARE(std::size_t(model.categoryCount()), kCategorias.size());
-    QCOMPARE(std::size_t(model.buttonCount()), kBotoes.size());
+    const auto images = imagens_do_ribbon();
+    QCOMPARE(images->count(), 30);
+    QCOMPARE(std::size_t(model.tabCount()), test::kTabs.size());
+    for (std::size_t n = 0; n < test::kTabs.size(); ++n) {
+      QCOMPARE(model.tab(int(n)).key, QString(test::kTabs[n].key));
+      QCOMPARE(model.tab(int(n)).caption, QString(test::kTabs[n].caption));
+    }
+    QCOMPARE(std::size_t(model.categoryCount()), test::kCategories.size());
+    for (std::size_t n = 0; n < test::kCategories.size(); ++n) {
+      const auto& category = model.category(int(n));
+      QCOMPARE(category.key, QString(test::kCategories[n].key));
+      QCOMPARE(category.tab, QString(test::kCategories[n].tab));
+      QCOMPARE(category.caption, QString(test::kCategories[n].caption));
+      QVERIFY(!category.hasLauncher);
+    }
+    QCOMPARE(std::size_t(model.buttonCount()), test::kButtons.size());
+    for (std::size_t n = 0; n < test::kButtons.size(); ++n) {
+      const auto& button = model.button(int(n));
+      const test::ToldButton& told = test::kButtons[n];
+      QCOMPARE(button.key, QString(told.key));
+      QCOMPARE(button.category, QString(told.category));
+      QCOMPARE(button.caption, QString(told.caption));
+      QCOMPARE(button.toolTip, QString(told.caption).replace("\r\n", " "));
+      QVERIFY(!button.hasGlyph);
+      QCOMPARE(button.picture.icon.pixmap(24).toImage(),
+               images->picture(told.image).icon.pixmap(24).toImage());
+    }
     QCOMPARE(window_->Ribbon().Theme(), std::int16_t{1});
     QVERIFY(!window_->Ribbon().ButtonCenter());
-    QCOMPARE(imagens_do_ribbon()->count(), 30);
     QCOMPARE(icones_das_linhas().size(), 3);
+  }
+
+  // Those named here wait for their windows; every other key does something.
+  void everyKeyHasAnAction() {
+    const QStringList waiting{"5", "24", "14", "16", "17"};
+    QSet<QString> keys;
+    for (const Comando& c : comandos()) {
+      const bool acts = c.acao != nullptr || c.filtro.has_value();
+      QVERIFY2(acts != waiting.contains(c.chave), c.chave);
+      QVERIFY2(c.categoria != nullptr || c.menu != nullptr || c.atalho != nullptr, c.chave);
+      QVERIFY2(!keys.contains(c.chave), c.chave);
+      keys << c.chave;
+    }
   }
 
   void filterButtons_data() {
@@ -243,9 +281,12 @@ class frmOficceTest : public QObject {
   void clickingARowRemembersItsNumber() {
     click(0);
     QCOMPARE(Tag_principal, QStringLiteral("0002/14"));
-    QCOMPARE(window_->txtkey(), QStringLiteral("0002/14"));
+    auto* const key = window_->findChild<QLineEdit*>("txtkey");
+    QVERIFY(key != nullptr && !key->isVisible());
+    QCOMPARE(key->text(), QStringLiteral("0002/14"));
     QTest::keyClick(&list(), Qt::Key_Down);
     QCOMPARE(Tag_principal, QStringLiteral("0001/14"));
+    QCOMPARE(key->text(), QStringLiteral("0001/14"));
   }
 
   void theNumberOutlivesTheRefill() {
@@ -253,6 +294,58 @@ class frmOficceTest : public QObject {
     press(QStringLiteral("20"));
     QCOMPARE(list().count(), 0);
     QCOMPARE(Tag_principal, QStringLiteral("0002/14"));
+  }
+
+  // A list just filled shows no row as chosen, and 0002/14, still remembered, may not be in it.
+  void afterARefillEnterAndDeleteActOnNoRow() {
+    completeTheProcesses();
+    click(0);
+    press(QStringLiteral("19"));
+    QCOMPARE(shown(), QStringList{"0001/14"});
+    test::ScriptedDialogs dialogs;
+    list().setFocus();
+    QTest::keyClick(&list(), Qt::Key_Return);
+    QTest::keyClick(&list(), Qt::Key_Delete);
+    QVERIFY(OpenForms::find(QStringLiteral("frmCadastro")) == nullptr);
+    QCOMPARE(Tag_principal, QStringLiteral("0002/14"));
+  }
+
+  void afterARefillTheKeysActOnTheRowThatShowsAsChosen() {
+    completeTheProcesses();
+    click(0);
+    press(QStringLiteral("19"));
+    list().selectRow(0);
+    test::ScriptedDialogs dialogs;
+    dialogs.expectBox(confirmDeletion(QStringLiteral("0001/14")), Button::No);
+    QTest::keyClick(&list(), Qt::Key_Delete);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QTest::keyClick(&list(), Qt::Key_Return);
+    const QWidget* form = OpenForms::find(QStringLiteral("frmCadastro"));
+    QVERIFY(form != nullptr);
+    QCOMPARE(form->findChild<QLineEdit*>("mskprocesso")->text(), QStringLiteral("0001/14"));
+  }
+
+  void theWindowSaysWhichFilterIsInForce() {
+    QCOMPARE(filterShown(), QStringLiteral("Exibindo: Iniciados e Abertos"));
+    press(QStringLiteral("21"));
+    QCOMPARE(filterShown(), QStringLiteral("Exibindo: Todos os Processos"));
+    press(QStringLiteral("19"));
+    QCOMPARE(filterShown(), QStringLiteral("Exibindo: Abertos (c/Empenho)"));
+    press(QStringLiteral("20"));
+    QCOMPARE(filterShown(), QStringLiteral("Exibindo: Encerrados (Arquivo)"));
+    press(QStringLiteral("18"));
+    QCOMPARE(filterShown(), QStringLiteral("Exibindo: Iniciados (só Requisição)"));
+    press(QStringLiteral("21"));
+    localize(0, QStringLiteral("ana"));
+    QCOMPARE(filterShown(), QStringLiteral("Exibindo: nome com “ana”"));
+    localize(1, QStringLiteral("0001/14"));
+    QCOMPARE(filterShown(), QStringLiteral("Exibindo: processo 0001/14"));
+    window_->Atualiza_grid();
+    QCOMPARE(filterShown(), QStringLiteral("Exibindo: Todos os Processos"));
+    const auto* const label = window_->findChild<QLabel*>("lblFiltro");
+    QVERIFY(label->isVisible() && label->parentWidget()->rect().contains(label->geometry()));
+    window_->resize(640, 400);
+    QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->width());
   }
 
   void aHeaderSortsAsTextAndTurnsRound() {
@@ -368,18 +461,47 @@ class frmOficceTest : public QObject {
 
   void theMenuHoldsTheCommandsOfTheRow() {
     click(0);
-    QStringList words;
-    QTimer::singleShot(0, this, [&words] {
-      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-      QVERIFY(menu != nullptr);
-      for (const QAction* action : menu->actions()) {
-        words << action->text();
+    QCOMPARE(menuAt(0), QStringList({"&Alterar requisição\tEnter", "&Excluir requisição\tDel", "",
+                                     "&Incisos\tCtrl+I"}));
+  }
+
+  void besideTheRowsTheMenuOffersNothingOnOne() {
+    click(0);
+    QCOMPARE(menuAt(-1), QStringList{"&Incisos\tCtrl+I"});
+    press(QStringLiteral("19"));
+    QCOMPARE(menuAt(0), QStringList{"&Incisos\tCtrl+I"});
+  }
+
+  void aCommandOfTheMenuActsOnItsRow() {
+    click(1);
+    list().selectRow(0);
+    test::ScriptedDialogs dialogs;
+    dialogs.expectBox(confirmDeletion(QStringLiteral("0002/14")), Button::No);
+    menuAt(0, 1);
+  }
+
+  void theClausesHaveAShortcut() {
+    list().setFocus();
+    QTest::keyClick(&list(), Qt::Key_I, Qt::ControlModifier);
+    QVERIFY(OpenForms::find(QStringLiteral("frmLei")) != nullptr);
+  }
+
+  // What goes wrong in the alert is not told, and the timer stops all the same.
+  void theAlertsTickIgnoresErrors() {
+    class Refusing : public test::ScriptedDialogs {
+     public:
+      int asked = 0;
+      Button box(const Box&) override {
+        ++asked;
+        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
       }
-      menu->close();
-    });
-    emit list().contextMenuRequested(0, window_->mapToGlobal(QPoint(50, 200)));
-    QCOMPARE(words.mid(0, 2), QStringList({"&Alterar requisição", "&Excluir requisição"}));
-    QVERIFY(words.contains(QStringLiteral("&Incisos")));
+    };
+    Conexao->close();
+    Refusing dialogs;
+    QTRY_VERIFY(dialogs.asked > 0);
+    QVERIFY(OpenForms::find(QStringLiteral("frmAviso")) == nullptr);
+    QCOMPARE(dialogs.asked, 1);
+    Abre_conexao();
   }
 
  private:
@@ -392,6 +514,32 @@ class frmOficceTest : public QObject {
         "UPDATE Requisicao SET FICHA = '128', JUSTIFICATIVA = 'Despesas';");
   }
   ListView& list() const { return window_->ListView1(); }
+  QString filterShown() const { return window_->findChild<QLabel*>("lblFiltro")->text(); }
+  void localize(int what, const QString& words) const {
+    press(QStringLiteral("4"));
+    QWidget* form = OpenForms::find(QStringLiteral("frmLocalizar"));
+    form->findChild<QComboBox*>("Combo1")->setCurrentIndex(what);
+    QTest::keyClicks(form->findChild<QLineEdit*>("Text1"), words);
+    QTest::keyClick(form->findChild<QLineEdit*>("Text1"), Qt::Key_Return);
+  }
+  // The lines of the menu that comes at a row, after choosing one of them.
+  QStringList menuAt(int row, int choose = -1) const {
+    QStringList words;
+    QTimer::singleShot(0, window_.get(), [&words, choose] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      for (const QAction* action : menu->actions()) {
+        words << action->text();
+      }
+      if (choose >= 0) {
+        menu->setActiveAction(menu->actions().at(choose));
+        QTest::keyClick(menu, Qt::Key_Return);
+      } else {
+        menu->close();
+      }
+    });
+    emit list().contextMenuRequested(row, window_->mapToGlobal(QPoint(50, 200)));
+    return words;
+  }
   void press(const QString& key) const { emit window_->Ribbon().ButtonClick(key, QString()); }
   void click(int row) const {
     list().flush();

@@ -59,7 +59,7 @@ class Reckoning {
   Reckoning(std::size_t activeTab, bool center, test::Extras extras)
       : center_(center), extras_(extras) {
     tabs();
-    categories(kGuias[activeTab].chave);
+    categories(test::kTabs[activeTab].key);
   }
   const Places& places() const { return places_; }
 
@@ -84,7 +84,7 @@ class Reckoning {
   void tabs() {
     double x = 90;
     for (int i = 0; i < 4; ++i) {
-      const QSizeF size = text(test::utf8(kGuias[static_cast<std::size_t>(i)].titulo), 9.75);
+      const QSizeF size = text(test::utf8(test::kTabs[static_cast<std::size_t>(i)].caption), 9.75);
       for (const auto& [left, center, right] : {kTabLook, kTabOverLook}) {
         put(left, i, x, 0, 150, 360);
         put(center, i, x + 150, 0, size.width(), 360);
@@ -99,8 +99,8 @@ class Reckoning {
   void categories(const QString& tab) {
     double x = 120;
     int i = 0;
-    for (std::size_t n = 0; n < kCategorias.size(); ++n) {
-      if (tab == kCategorias[n].guia) {
+    for (std::size_t n = 0; n < test::kCategories.size(); ++n) {
+      if (tab == test::kCategories[n].tab) {
         x = category(i++, n, x);
       }
     }
@@ -109,8 +109,8 @@ class Reckoning {
   // Returns where the next one begins.
   double category(int i, std::size_t n, double x) {
     const bool launcher = extras_.launchers && n % 2 == 0;
-    const QSizeF caption = text(test::utf8(kCategorias[n].titulo), 9.75);
-    const double filled = buttons(kCategorias[n].chave, x + 60);
+    const QSizeF caption = text(test::utf8(test::kCategories[n].caption), 9.75);
+    const double filled = buttons(test::kCategories[n].key, x + 60);
     const double needed = caption.width() + (launcher ? 225 : 0);
     const double inner = std::max(filled, needed);
     put(Cat_Left_off, i, x, 360, 60, 1335);
@@ -131,8 +131,8 @@ class Reckoning {
   // Returns the width of all.
   double buttons(const QString& category, double from) {
     double x = from;
-    for (std::size_t n = 0; n < kBotoes.size(); ++n) {
-      if (category == kBotoes[n].categoria) {
+    for (std::size_t n = 0; n < test::kButtons.size(); ++n) {
+      if (category == test::kButtons[n].category) {
         x = button(n, x) + 30;
       }
     }
@@ -142,7 +142,7 @@ class Reckoning {
   double button(std::size_t n, double x) {
     const int i = ++lastButton_;
     const bool glyph = extras_.glyphs && n % 2 == 0;
-    const QSizeF caption = text(test::utf8(kBotoes[n].titulo), 6.75);
+    const QSizeF caption = text(test::utf8(test::kButtons[n].caption), 6.75);
     const double inner = std::max(caption.width(), 360.0);
     for (const auto& [left, center, right] : {kButtonLook, kButtonOverLook}) {
       put(left, i, x, 420, 45, 990);

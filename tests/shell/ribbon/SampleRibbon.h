@@ -5,8 +5,8 @@
 #include <QMouseEvent>
 #include <QPixmap>
 
-#include "shell/ComandosRibbon.h"
 #include "shell/ribbon/FaixaRibbon.h"
+#include "tests/shell/ribbon/ToldRibbon.h"
 
 namespace quartela::test {
 
@@ -39,18 +39,18 @@ inline bool isEven(std::size_t n) {
 inline void fill(FaixaRibbon& ribbon, Extras extras = {}) {
   const ImageList images = squares();
   ribbon.setImageList(&images);
-  for (const GuiaRibbon& tab : kGuias) {
-    ribbon.AddTab(utf8(tab.chave), utf8(tab.titulo));
+  for (const ToldTab& tab : kTabs) {
+    ribbon.AddTab(utf8(tab.key), utf8(tab.caption));
   }
-  for (std::size_t n = 0; n < kCategorias.size(); ++n) {
-    const CategoriaRibbon& category = kCategorias[n];
-    ribbon.AddCat(utf8(category.chave), utf8(category.guia), utf8(category.titulo),
+  for (std::size_t n = 0; n < kCategories.size(); ++n) {
+    const ToldCategory& category = kCategories[n];
+    ribbon.AddCat(utf8(category.key), utf8(category.tab), utf8(category.caption),
                   extras.launchers && isEven(n));
   }
-  for (std::size_t n = 0; n < kBotoes.size(); ++n) {
-    const BotaoRibbon& button = kBotoes[n];
-    ribbon.AddButton(utf8(button.chave), utf8(button.categoria), utf8(button.titulo),
-                     static_cast<std::int16_t>(button.imagem), extras.glyphs && isEven(n));
+  for (std::size_t n = 0; n < kButtons.size(); ++n) {
+    const ToldButton& button = kButtons[n];
+    ribbon.AddButton(utf8(button.key), utf8(button.category), utf8(button.caption),
+                     static_cast<std::int16_t>(button.image), extras.glyphs && isEven(n));
   }
   ribbon.setImageList(nullptr);
 }
