@@ -20,16 +20,20 @@ void registra_impressao(Relatorio relatorio, Imprime imprime) {
 }
 
 void imprime(const PedidoImpressao& pedido) {
-  if (const Imprime registrado = registrados().value(pedido.relatorio)) {
-    registrado(pedido);
+  const Imprime registrado = registrados().value(pedido.relatorio);
+  if (!registrado) {
+    throw RuntimeError::withDescription(
+        ErrorNumber::InvalidProcedureCall,
+        QStringLiteral("Este documento não está disponível nesta instalação."));
   }
+  registrado(pedido);
 }
 
 bool imprime_requisicao(const QString& comando) {
   bool entregue = false;
-  Sob_trava(QStringLiteral("Função imprimir"), [&] {
+  Sob_trava(kFuncaoImprimir, [&] {
     Sql_atual = comando;
-    imprime({.relatorio = Relatorio::Requisicao2, .comando = comando, .exibe = true, .campos = {}});
+    imprime({.relatorio = Relatorio::Requisicao2, .comando = comando});
     entregue = true;
   });
   return entregue;

@@ -1,6 +1,7 @@
 #include "reports/Relatorios.h"
 
 #include "reports/arPrestContas.h"
+#include "reports/arPrestacao.h"
 #include "reports/arRequisicao.h"
 #include "reports/arRequisicao2.h"
 
@@ -10,6 +11,7 @@ void registra_relatorios() {
   registra_arRequisicao2();
   registra_arRequisicao();
   registra_arPrestContas();
+  registra_arPrestacao();
 }
 
 }  // namespace quartela

@@ -8,6 +8,7 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/reporting/Output.h"
 #include "platform/reporting/ReportPreview.h"
+#include "records/Impressao.h"
 
 namespace quartela {
 namespace {

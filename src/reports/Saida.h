@@ -8,9 +8,6 @@
 
 namespace quartela {
 
-// The label under which every failure of a report is told.
-inline const QString kFuncaoImprimir = QStringLiteral("Função imprimir");
-
 // The layout of that name, as it is compiled in: "arPrestContas".
 QString Desenho(const QString& relatorio);
 

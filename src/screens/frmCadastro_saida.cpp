@@ -20,7 +20,6 @@ namespace quartela {
 namespace {
 
 const QString kAviso = QStringLiteral("Aviso");
-const QString kImprimir = QStringLiteral("Função imprimir");
 constexpr QStringView kValor = u"#,##0.00";
 constexpr QStringView kData = u"dd/MM/yyyy";
 constexpr qsizetype kNumeroEmpenho = 8;
@@ -44,7 +43,7 @@ QString valor_positivo(const QString& texto) {
 }  // namespace
 
 void frmCadastro::imprime_prestacao() {
-  Sob_trava(kImprimir, [this] {
+  Sob_trava(kFuncaoImprimir, [this] {
     const ListView& lista = *ui_->lstEmpenho;
     const int linha = lista.selectedRow();
     Sql_atual = QStringLiteral("Select * from PrestContas Where PROCESSO = ") +
@@ -74,7 +73,7 @@ void frmCadastro::imprime_prestacao() {
 // The slip with which the money that was not spent is paid back.
 bool frmCadastro::imprime_guia() {
   bool entregue = false;
-  Sob_trava(kImprimir, [&] {
+  Sob_trava(kFuncaoImprimir, [&] {
     const ListView& lista = *ui_->lstEmpenho;
     const int linha = lista.selectedRow();
     const QString vencimento = Format(lista.subItem(linha, kFecharEm), u"dd/mm/YYYY");

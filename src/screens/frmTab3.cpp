@@ -8,8 +8,7 @@
 #include "foundation/UmaJanela.h"
 #include "platform/values/Clock.h"
 #include "platform/values/Format.h"
-#include "reports/Saida.h"
-#include "reports/arPrestacao.h"
+#include "records/Impressao.h"
 #include "screens/frmProcura.h"
 #include "ui_frmTab3.h"
 
@@ -25,6 +24,28 @@ constexpr int kAltura = 4290;
 // The columns of the picker.
 constexpr int kNome = 1;
 constexpr int kTipo = 2;
+
+// The process of an empenho.
+QString comando_cabeca(const QString& empenho) {
+  return QStringLiteral(
+             "SELECT Requisicao.VALOR, Requisicao.SEQ, Adiantamento.EMPENHO, "
+             "Adiantamento.ABERTURA, Adiantamento.RETIRADA, "
+             "Adiantamento.DATADEV, Adiantamento.DEVOLUCAO, Executor.NOME, Executor.FUNCAO "
+             "FROM (Executor INNER JOIN Requisicao ON Executor.ORDEM = Requisicao.ORGAO) "
+             "INNER JOIN Adiantamento ON Requisicao.SEQ = Adiantamento.PROCESSO "
+             "Where Adiantamento.EMPENHO = ") +
+         empenho;
+}
+
+QString comando_notas(const QString& empenho) {
+  return QStringLiteral(
+             "SELECT PrestContas.DATA, PrestContas.ORDEM, PrestContas.HISTORICO, "
+             "PrestContas.DESPESAS, Requisicao.VALOR "
+             "FROM Requisicao INNER JOIN (Adiantamento INNER JOIN PrestContas "
+             "ON Adiantamento.EMPENHO = PrestContas.PROCESSO) "
+             "ON Requisicao.SEQ = Adiantamento.PROCESSO Where PrestContas.Processo = ") +
+         empenho + QStringLiteral(" ORDER BY PrestContas.DATA;");
+}
 
 }  // namespace
 
@@ -92,12 +113,12 @@ void frmTab3::cmdConcluir_Click() {
   Sob_trava(kFuncaoImprimir, [this] {
     const QString empenho = ui_->mskempenho->value();
     const QString momento = ui_->txtmomento->text() + QStringLiteral(" - ") + ui_->txthora->text();
-    Exibe_prestacao_anterior(
-        {.notas = Comando_notas(empenho),
-         .textos = {{QStringLiteral("Data2"), Comando_cabeca(empenho)},
-                    {QStringLiteral("Field23"), momento},
-                    {QStringLiteral("Field24"), ui_->txtlocal->text()},
-                    {QStringLiteral("Field25"), ui_->txtatipicidade->text()}}});
+    imprime({.relatorio = Relatorio::PrestacaoAnterior,
+             .comando = comando_notas(empenho),
+             .campos = {{QStringLiteral("Data2"), comando_cabeca(empenho)},
+                        {QStringLiteral("Field23"), momento},
+                        {QStringLiteral("Field24"), ui_->txtlocal->text()},
+                        {QStringLiteral("Field25"), ui_->txtatipicidade->text()}}});
   });
 }
 

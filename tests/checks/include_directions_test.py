@@ -36,6 +36,13 @@ class IncludeDirections(unittest.TestCase):
         self.assertEqual(1, len(problems_of({
             "shell/ribbon/a.h": '#include "foundation/b.h"\n', "foundation/b.h": ""})))
 
+    def test_screens_do_not_include_documents(self):
+        self.assertEqual(["screens/a.h:1: screens must not include reports/arPrestContas.h"], problems_of({
+            "screens/a.h": '#include "reports/arPrestContas.h"\n#include "reports/frmImportar.h"\n',
+            "shell/b.h": '#include "reports/Relatorios.h"\n',
+            "reports/Relatorios.h": '#include "reports/arPrestContas.h"\n',
+            "reports/arPrestContas.h": "", "reports/frmImportar.h": ""}))
+
     def test_a_circle_inside_a_folder_is_found(self):
         self.assertEqual(["circle: records/a.h -> records/b.h -> records/a.h"], problems_of({
             "records/a.h": '#include "records/b.h"\n', "records/b.h": '#include "records/a.h"\n'}))

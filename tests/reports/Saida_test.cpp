@@ -9,6 +9,7 @@
 #include "platform/controls/OpenForms.h"
 #include "platform/reporting/LayoutReader.h"
 #include "platform/reporting/ReportPreview.h"
+#include "records/Impressao.h"
 #include "tests/platform/reporting/SampleReport.h"
 #include "tests/support/PdfTools.h"
 #include "tests/support/ScriptedDialogs.h"

@@ -593,6 +593,15 @@ class frmCadastroRequisicaoTest : public QObject {
     QVERIFY(desk_->isOpen());
   }
 
+  void withoutAReportItIsToldAndTheWindowStays() {
+    desk_->openProcess();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::documentMissing());
+    desk_->click("cmdImprimir");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+  }
+
   void okRefreshesAndCloses() {
     desk_->openNew();
     savedState();

@@ -95,10 +95,24 @@ class frmCadastroSaidaTest : public QObject {
     QVERIFY(!desk_->isOpen());
   }
 
-  void withoutAReportNothingIsPrinted() {
+  void withoutAReportItIsToldAndTheWindowStays() {
     openWith(300);
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::documentMissing());
     desk_->click("Command1_4");
-    QVERIFY(!desk_->isOpen());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+  }
+
+  void withoutASlipItIsToldAndTheEmpenhoIsClosed() {
+    openWith(300);
+    ScriptedDialogs dialogs;
+    expectClosing(dialogs);
+    dialogs.expectBox(boxes::documentMissing());
+    desk_->click("cmdEncerrar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+    QCOMPARE(desk_->text("cmdEncerrar"), QString("Reativar Empenho"));
   }
 
   void aFailingReportIsTold() {

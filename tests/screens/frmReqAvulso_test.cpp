@@ -439,6 +439,16 @@ class frmReqAvulsoTest : public QObject {
     QCOMPARE(desk_->enabled(kButtons), QString("0111"));
   }
 
+  void withoutAReportItIsToldAndTheWindowStays() {
+    desk_->save();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::documentMissing());
+    desk_->click("cmdImprimir");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+    QCOMPARE(desk_->enabled(kButtons), QString("0111"));
+  }
+
   void nothingIsPrintedBeforeSaving() {
     test::PrintedReports printed;
     desk_->show();

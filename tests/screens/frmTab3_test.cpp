@@ -6,11 +6,15 @@
 #include <QTabBar>
 #include <QTabWidget>
 
+#include "foundation/Banco.h"
 #include "foundation/Estilo.h"
+#include "foundation/Leitura.h"
 #include "foundation/UmaJanela.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/MaskedBox.h"
-#include "reports/Saida.h"
+#include "platform/values/Convert.h"
+#include "records/Impressao.h"
+#include "reports/arPrestacao.h"
 #include "screens/frmProcura.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/Typing.h"
@@ -40,6 +44,7 @@ class frmTab3Test : public QObject {
   void cleanup() {
     wizard_.reset();
     delete UmaJanela<frmProcura>::aberta();
+    registra_impressao(Relatorio::PrestacaoAnterior, {});
     office_.reset();
   }
 
@@ -138,13 +143,49 @@ class frmTab3Test : public QObject {
     QVERIFY(UmaJanela<frmProcura>::aberta() == nullptr);
   }
 
+  void asksForTheReport() {
+    QList<PedidoImpressao> requests;
+    registra_impressao(Relatorio::PrestacaoAnterior,
+                       [&requests](const PedidoImpressao& request) { requests.append(request); });
+    fillIn();
+    click("cmdConcluir");
+    QCOMPARE(requests.size(), 1);
+    QCOMPARE(requests[0].comando,
+             QString("SELECT PrestContas.DATA, PrestContas.ORDEM, PrestContas.HISTORICO, "
+                     "PrestContas.DESPESAS, Requisicao.VALOR FROM Requisicao INNER JOIN "
+                     "(Adiantamento INNER JOIN PrestContas ON Adiantamento.EMPENHO = "
+                     "PrestContas.PROCESSO) ON Requisicao.SEQ = Adiantamento.PROCESSO Where "
+                     "PrestContas.Processo = 0050014 ORDER BY PrestContas.DATA;"));
+    const QString head = requests[0].campos.value("Data2");
+    QCOMPARE(head,
+             QString("SELECT Requisicao.VALOR, Requisicao.SEQ, Adiantamento.EMPENHO, "
+                     "Adiantamento.ABERTURA, Adiantamento.RETIRADA, Adiantamento.DATADEV, "
+                     "Adiantamento.DEVOLUCAO, Executor.NOME, Executor.FUNCAO FROM (Executor INNER "
+                     "JOIN Requisicao ON Executor.ORDEM = Requisicao.ORGAO) INNER JOIN "
+                     "Adiantamento ON Requisicao.SEQ = Adiantamento.PROCESSO Where "
+                     "Adiantamento.EMPENHO = 0050014"));
+    QCOMPARE(requests[0].campos, (QMap<QString, QString>{{"Data2", head},
+                                                         {"Field23", "21/11/2014 - 10:30:00"},
+                                                         {"Field24", "Tesouraria"},
+                                                         {"Field25", "Nenhuma"}}));
+    QStringList names;
+    Le_tabela(head, [&names] { names << Convert::toText(Tabela.field(u"NOME")); });
+    QCOMPARE(names, QStringList{"Ordenador"});
+  }
+
+  void withoutAReportItIsTold() {
+    fillIn();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::documentMissing());
+    click("cmdConcluir");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(wizard_->isVisible());
+  }
+
   // The report that it was made for is no longer there.
   void endsInTheErrorBox() {
-    test::typeText(child<QWidget>("mskempenho"), "0050014");
-    click("cmdAvancar");
-    test::typeText(field("txtlocal"), "Tesouraria");
-    test::typeText(field("txtatipicidade"), "Nenhuma");
-    click("cmdAvancar");
+    registra_arPrestacao();
+    fillIn();
     ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::internalError(ErrorNumber::SubscriptOutOfRange, kFuncaoImprimir,
                                            "arPrestacao.Data2"));
@@ -191,6 +232,14 @@ class frmTab3Test : public QObject {
   QLineEdit* field(const char* name) const { return child<QLineEdit>(name); }
   QString caption(const char* name) const { return button(name)->text().remove(QLatin1Char('&')); }
   void click(const char* name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+  // To the last step.
+  void fillIn() const {
+    test::typeText(child<QWidget>("mskempenho"), "0050014");
+    click("cmdAvancar");
+    test::typeText(field("txtlocal"), "Tesouraria");
+    test::typeText(field("txtatipicidade"), "Nenhuma");
+    click("cmdAvancar");
+  }
   int step() const { return child<QTabWidget>("TabStrip1")->currentIndex(); }
   QStringList enabled() const {
     QStringList names;

@@ -59,4 +59,12 @@ inline Box internalError(ErrorNumber number, const QString& label, const QString
           .icon = BoxIcon::Exclamation};
 }
 
+// A print command whose document nothing serves.
+inline Box documentMissing() {
+  Box box = internalError(ErrorNumber::InvalidProcedureCall, QStringLiteral("Função imprimir"));
+  box.text.replace(errorDescription(ErrorNumber::InvalidProcedureCall),
+                   QStringLiteral("Este documento não está disponível nesta instalação."));
+  return box;
+}
+
 }  // namespace quartela::test::boxes
