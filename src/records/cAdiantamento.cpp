@@ -45,19 +45,25 @@ void cAdiantamento::Save_ad(std::int16_t codigo) {
   Salva_registro(codigo, {.tabela = QStringLiteral("Adiantamento"),
                           .selecao = selecao,
                           .grava_campos = [this] { Grava_campos(); }});
+  Intocadas.clear();
 }
 
 void cAdiantamento::Grava_campos() const {
-  Tabela.setField(u"EMPENHO", Empenho);
-  Tabela.setField(u"PROCESSO", processo);
-  Tabela.setField(u"ABERTURA", Abertura);
-  Tabela.setField(u"RETIRADA", Retirada);
-  Tabela.setField(u"FECHAR_EM", Fechar);
-  Tabela.setField(u"FECHAMENTO", Fechamento);
-  Tabela.setField(u"DEVOLUCAO", Devolucao);
-  Tabela.setField(u"DATADEV", Datadev);
-  Tabela.setField(u"ANULADO", Nulo != 0);
-  Tabela.setField(u"OP", OP);
+  const auto grava = [this](QStringView coluna, const Value& valor) {
+    if (!Intocadas.contains(coluna)) {
+      Tabela.setField(coluna, valor);
+    }
+  };
+  grava(u"EMPENHO", Empenho);
+  grava(u"PROCESSO", processo);
+  grava(u"ABERTURA", Abertura);
+  grava(u"RETIRADA", Retirada);
+  grava(u"FECHAR_EM", Fechar);
+  grava(u"FECHAMENTO", Fechamento);
+  grava(u"DEVOLUCAO", Devolucao);
+  grava(u"DATADEV", Datadev);
+  grava(u"ANULADO", Nulo != 0);
+  grava(u"OP", OP);
 }
 
 void cAdiantamento::Lista_Adiantamento(ListView& lista) {

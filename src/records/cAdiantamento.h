@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 
 #include "platform/values/Value.h"
@@ -36,6 +37,8 @@ class cAdiantamento {
   Value Fechamento;
   Money Devolucao;
   Value Datadev;
+  // Columns that the next save leaves as they stand in the row, whatever the properties hold.
+  QStringList Intocadas;
 
   // Deletes the row of Empenho with its notes.
   void Del_ad();

@@ -151,6 +151,10 @@ QString Nome_proprio(const QString& texto) {
   return proprio;
 }
 
+QString Conteudo_campo(const QWidget& campo) {
+  return conteudo(&campo);
+}
+
 QString Conteudo_digitado(const QWidget& tela) {
   QString tudo;
   const QList<QWidget*> campos = tela.findChildren<QWidget*>();
@@ -201,31 +205,56 @@ void Mostra_data(DatePicker& data, const Value& valor) {
   data.setValue(valor);
 }
 
+void ValorMostrado::mostra(MoneyEdit& campo, Money valor, const QString& texto) {
+  campo.setText(texto);
+  valor_ = valor;
+  mostrado_ = conteudo_valor(campo);
+}
+
+Money ValorMostrado::valor(const MoneyEdit& campo) const {
+  return valor_ && conteudo_valor(campo) == mostrado_ ? *valor_ : campo.value();
+}
+
+DateTime Com_hora_carregada(const DateTime& dia, const DateTime& carregada) {
+  return dia.date() == carregada.date() ? carregada : dia;
+}
+
+bool Avisa_valor_recusado(MoneyEdit& campo) {
+  try {
+    if (!campo.isEmpty()) {
+      campo.value();
+    }
+    return false;
+  } catch (const RuntimeError&) {
+    Dialogs::exclamation(QStringLiteral("Valor inválido!!"), QStringLiteral("Aviso"));
+    campo.setFocus();
+    return true;
+  }
+}
+
 void DatasRecusadas::observa(DatePicker& data) {
   data.setMinimum(kPrimeiraData);
   data.setMaximum(kUltimaData);
   QObject::connect(
       &data, &DatePicker::typingRefused, &data, [this, &data](const QString& digitado) {
-        recusada_ = &data;
+        if (!recusadas_.contains(&data)) {
+          recusadas_.append(&data);
+        }
         QToolTip::showText(
             data.mapToGlobal(data.rect().bottomLeft()),
             QStringLiteral("%1 não é uma data de 1997 a 2100: voltou o valor anterior.")
                 .arg(digitado),
             &data);
       });
-  const auto aceita = [this, &data] {
-    if (recusada_ == &data) {
-      recusada_ = nullptr;
-    }
-  };
-  QObject::connect(&data, &DatePicker::valueChanged, &data, aceita);
+  QObject::connect(&data, &DatePicker::valueChanged, &data,
+                   [this, &data] { recusadas_.removeAll(&data); });
 }
 
 bool DatasRecusadas::avisa() {
-  if (recusada_ == nullptr) {
+  if (recusadas_.isEmpty()) {
     return false;
   }
-  DatePicker* const data = std::exchange(recusada_, nullptr);
+  DatePicker* const data = recusadas_.takeFirst();
   Dialogs::exclamation(QStringLiteral("Data inválida!!"), QStringLiteral("Aviso"));
   data->setFocus();
   return true;

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <functional>
+#include <optional>
 
 #include "platform/values/RuntimeError.h"
 #include "platform/values/Value.h"
@@ -15,6 +16,7 @@ class QWidget;
 namespace quartela {
 
 class DatePicker;
+class MoneyEdit;
 
 // Selects the whole text whenever the field gets the focus, also by the mouse.
 void Seleciona_ao_entrar(QLineEdit& campo);
@@ -31,6 +33,10 @@ void Escurece_inativos(QWidget& parte);
 // Each word with a capital at its head and small letters behind it.
 QString Nome_proprio(const QString& texto);
 
+// What the operator can type or tick in that field, as a text to compare; an amount is the same
+// with and without its thousands dots.
+QString Conteudo_campo(const QWidget& campo);
+
 // All that the operator can type or tick inside `tela`, as one text, to tell whether it has
 // changed.
 QString Conteudo_digitado(const QWidget& tela);
@@ -38,9 +44,9 @@ QString Conteudo_digitado(const QWidget& tela);
 // Asks whether what was typed and not saved may be given up.
 bool Confirma_abandono();
 
-// Lets a window with something typed close only after asking, whether Escape, its frame, another
-// window or the end of the program closes it. The window's own commands close it by fecha(), which
-// asks nothing: their captions say what they do. Must not outlive the window.
+// Lets a window with something typed close only after asking, whether a button, Escape, its frame,
+// another window or the end of the program closes it. A command that does more than close asks
+// permite() first and closes by fecha(), which asks nothing. Must not outlive the window.
 class Fechamento : public QObject {
  public:
   Fechamento(QWidget& janela, std::function<bool()> tem_digitacao);
@@ -70,18 +76,41 @@ void Segue(Passo&& passo) {
   }
 }
 
+// An amount in a field that shows fewer decimals than the amount may have: as long as the field
+// shows what it was given, that is the amount.
+class ValorMostrado {
+ public:
+  // `texto` is the amount as the field shows it.
+  void mostra(MoneyEdit& campo, Money valor, const QString& texto);
+  // Nothing was given to the field.
+  void esquece() { valor_.reset(); }
+  // Errors: those of MoneyEdit::value().
+  Money valor(const MoneyEdit& campo) const;
+
+ private:
+  std::optional<Money> valor_;
+  QString mostrado_;
+};
+
+// The day on the screen with the time of day that the same day had when it was loaded.
+DateTime Com_hora_carregada(const DateTime& dia, const DateTime& carregada);
+
+// Tells of an amount that is none, or is too large to be kept, with the focus on its field. An
+// empty field is not told of. True when it was told.
+bool Avisa_valor_recusado(MoneyEdit& campo);
+
 // Dates that were typed and refused. Each is told on the spot beside its field, and once more, in a
-// box, when the operator is about to save without having looked at it again.
+// box of its own, when the operator is about to save without having looked at it again.
 class DatasRecusadas {
  public:
   // Both must outlive the picker's last signal.
   void observa(DatePicker& data);
   // True, after the box and with the focus on the field, when a date was refused since it was last
-  // changed.
+  // changed. Of several the one refused first is told; the next call tells the next.
   bool avisa();
 
  private:
-  DatePicker* recusada_ = nullptr;
+  QList<DatePicker*> recusadas_;
 };
 
 }  // namespace quartela

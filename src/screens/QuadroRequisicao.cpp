@@ -8,6 +8,7 @@
 #include "masterdata/cTomador.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Convert.h"
+#include "platform/values/Format.h"
 #include "records/CamposRequisicao.h"
 #include "ui_QuadroRequisicao.h"
 
@@ -99,7 +100,9 @@ void QuadroRequisicao::carrega_listas() {
 // that of allocations, before they are searched.
 void QuadroRequisicao::mostra(const CamposRequisicao& requisicao) {
   Mostra_data(*ui_->dtpdata, requisicao.Data);
-  ui_->mskvalor->setValue(requisicao.Valor);
+  data_carregada_ = requisicao.Data;
+  valor_.mostra(*ui_->mskvalor, requisicao.Valor,
+                Format(requisicao.Valor, ui_->mskvalor->format()));
   ui_->txtjustificativa->setPlainText(requisicao.Justificativa);
   ui_->cmbResponsavel->selectByData(requisicao.Tomador);
   ui_->cmbOrgao->selectByData(requisicao.Secretaria);
@@ -192,7 +195,7 @@ bool QuadroRequisicao::completo() {
                          QStringLiteral("Aviso"));
     return false;
   }
-  return true;
+  return !Avisa_valor_recusado(*ui_->mskvalor);
 }
 
 void QuadroRequisicao::preenche_lugares(CamposRequisicao& requisicao) const {
@@ -201,10 +204,10 @@ void QuadroRequisicao::preenche_lugares(CamposRequisicao& requisicao) const {
 }
 
 void QuadroRequisicao::preenche(CamposRequisicao& requisicao) const {
-  requisicao.Data = ui_->dtpdata->value().dateTime();
+  requisicao.Data = Com_hora_carregada(ui_->dtpdata->value().dateTime(), data_carregada_);
   requisicao.Orgao = numero_escolhido(*ui_->cmbOrdenador);
   requisicao.Tomador = numero_escolhido(*ui_->cmbResponsavel);
-  requisicao.Valor = ui_->mskvalor->value();
+  requisicao.Valor = valor_.valor(*ui_->mskvalor);
   requisicao.Finalidade = numero_escolhido(*ui_->cmbTipo);
   requisicao.Justificativa = ui_->txtjustificativa->toPlainText();
   requisicao.Ficha = ui_->cmbficha->text();

@@ -40,8 +40,8 @@ class QuadroRequisicao : public QGroupBox {
   // in the frame is not shown then.
   void mostra(const CamposRequisicao& requisicao);
 
-  // Whether all that is required is there. What is missing, or a date that was refused, is told,
-  // with the focus on it. Other required fields of the window count too.
+  // Whether all that is required is there. What is missing, or a date or an amount that is none, is
+  // told, with the focus on it. Other required fields of the window count too.
   bool completo();
   // The places of person and type in their lists, in the place of their keys.
   void preenche_lugares(CamposRequisicao& requisicao) const;
@@ -65,6 +65,8 @@ class QuadroRequisicao : public QGroupBox {
 
   std::unique_ptr<Ui::QuadroRequisicao> ui_;
   DatasRecusadas datas_;
+  ValorMostrado valor_;
+  DateTime data_carregada_;
   bool oferece_inativos_ = false;
   QString salvo_;  // the typed contents when last loaded or saved
 };

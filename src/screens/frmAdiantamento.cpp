@@ -1,8 +1,12 @@
 #include "screens/frmAdiantamento.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QMouseEvent>
 #include <QTabBar>
 #include <QTextCharFormat>
+#include <QToolButton>
+#include <algorithm>
+#include <utility>
 
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
@@ -46,6 +50,19 @@ Value data_mostrada(const QString& texto) {
 
 Value data_ou_vazia(const DatePicker& data) {
   return data.isEmpty() ? Value() : Value(Format(data.value(), kData));
+}
+
+// What is pasted may be anything; a number with decimals would be rounded to another one.
+bool so_digitos(const QString& texto) {
+  return !texto.isEmpty() && std::all_of(texto.cbegin(), texto.cend(), [](QChar letra) {
+    return letra >= QLatin1Char('0') && letra <= QLatin1Char('9');
+  });
+}
+
+// Behind the last two digits, which are the year's, stands a number from 1 on.
+bool tem_numero(const QString& empenho) {
+  constexpr std::int32_t kAnos = 100;
+  return !empenho.isEmpty() && Convert::toI32(empenho) >= kAnos;
 }
 
 // The weekends' red would make an inactive calendar look active.
@@ -94,15 +111,14 @@ void frmAdiantamento::liga_eventos() {
       tecla = 0;
     }
   });
+  // The picture that opens its calendar belongs to the field.
   ui_->dtpfechamento->installEventFilter(this);
+  const QList<QToolButton*> figuras = ui_->dtpfechamento->findChildren<QToolButton*>();
+  for (QToolButton* const figura : figuras) {
+    figura->installEventFilter(this);
+  }
   connect(ui_->dtpretirada, &DatePicker::valueChanged, this,
           Evento(this, &frmAdiantamento::dtpretirada_Change));
-  // A date that is typed proposes the amount as a click does.
-  connect(ui_->dtpfechamento, &DatePicker::valueChanged, this, [this] {
-    if (!ui_->dtpfechamento->isEmpty()) {
-      Evento(this, &frmAdiantamento::dtpfechamento_Click)();
-    }
-  });
   connect(ui_->MonthView1, &QCalendarWidget::clicked, this,
           Evento(this, &frmAdiantamento::MonthView1_DateClick));
   connect(ui_->MonthView1, &QCalendarWidget::activated, this,
@@ -139,16 +155,18 @@ void frmAdiantamento::prepara_novo() {
 void frmAdiantamento::Carrega_dados() {
   const ListView& lista = *contexto_.lstEmpenho;
   const int linha = lista.selectedRow();
-  const auto mostra = [&](DatePicker* campo, int n) {
+  const auto mostra = [&](DatePicker* campo, int n, const char* coluna) {
     Mostra_data(*campo, data_mostrada(lista.subItem(linha, n)));
+    carregados_.append({campo, QLatin1String(coluna), Conteudo_campo(*campo)});
   };
   ui_->mskempenho->setText(contexto_.chave);
-  mostra(ui_->dtpabertura, kAbertura);
-  mostra(ui_->dtpretirada, kRetirada);
-  mostra(ui_->dtpfechar_em, kFecharEm);
-  mostra(ui_->dtpfechamento, kFechamento);
+  mostra(ui_->dtpabertura, kAbertura, "ABERTURA");
+  mostra(ui_->dtpretirada, kRetirada, "RETIRADA");
+  mostra(ui_->dtpfechar_em, kFecharEm, "FECHAR_EM");
+  mostra(ui_->dtpfechamento, kFechamento, "FECHAMENTO");
   ui_->mskdev->setText(lista.subItem(linha, kDevolucao));
-  mostra(ui_->dtpdevolucao, kDataDevolucao);
+  carregados_.append({ui_->mskdev, QStringLiteral("DEVOLUCAO"), Conteudo_campo(*ui_->mskdev)});
+  mostra(ui_->dtpdevolucao, kDataDevolucao, "DATADEV");
   ui_->mskOP->setText(lista.subItem(linha, kOP));
   ui_->Check1->setChecked(lista.subItem(linha, kOP) == QStringLiteral("SIM"));
   ui_->mskempenho->setEnabled(false);
@@ -184,16 +202,24 @@ void frmAdiantamento::MonthView1_DateClick(const QDate& dia) {
 }
 
 bool frmAdiantamento::eventFilter(QObject* objeto, QEvent* evento) {
-  if (objeto == ui_->dtpfechamento && evento->type() == QEvent::MouseButtonRelease) {
+  if (evento->type() == QEvent::MouseButtonRelease &&
+      static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton) {
     Evento(this, &frmAdiantamento::dtpfechamento_Click)();
   }
   return QDialog::eventFilter(objeto, evento);
 }
 
+// Coming back from a box or a list of its own is no new activation: a box leaves the focus on the
+// field that it spoke of.
 void frmAdiantamento::changeEvent(QEvent* evento) {
   QDialog::changeEvent(evento);
-  if (evento->type() == QEvent::ActivationChange && isActiveWindow() && novo_ && !ativado_) {
-    ativado_ = true;
+  if (evento->type() != QEvent::ActivationChange || !novo_) {
+    return;
+  }
+  if (!isActiveWindow()) {
+    volta_de_caixa_ = QApplication::activeModalWidget() != nullptr ||
+                      QApplication::activePopupWidget() != nullptr;
+  } else if (!std::exchange(volta_de_caixa_, false)) {
     ui_->mskempenho->setFocus();
   }
 }
@@ -218,7 +244,7 @@ bool frmAdiantamento::recusa(const QString& texto, QWidget* campo) {
 }
 
 bool frmAdiantamento::aceita() {
-  if (ui_->mskempenho->isMaskEmpty()) {
+  if (!tem_numero(ui_->mskempenho->clipText())) {
     return recusa(QStringLiteral("Informe o número do Empenho !!"), ui_->mskempenho);
   }
   acerta_devolucao();
@@ -236,10 +262,10 @@ bool frmAdiantamento::aceita() {
     return recusa(QStringLiteral("A data de encerramento não pode ser menor que a da retirada !!"),
                   ui_->dtpfechar_em);
   }
-  if (ui_->mskOP->isMaskEmpty()) {
+  if (!so_digitos(ui_->mskOP->text())) {
     return recusa(QStringLiteral("Informe o número da OP !!"), ui_->mskOP);
   }
-  return true;
+  return !Avisa_valor_recusado(*ui_->mskdev);
 }
 
 // Without a closing date nothing has been returned.
@@ -264,6 +290,12 @@ void frmAdiantamento::preenche_adiantamento() {
   adiantamento.Datadev = data_ou_vazia(*ui_->dtpdevolucao);
   adiantamento.OP = Convert::toI32(ui_->mskOP->text());
   adiantamento.Nulo = ui_->Check1->isChecked() ? -1 : 0;
+  adiantamento.Intocadas.clear();
+  for (const CampoCarregado& carregado : carregados_) {
+    if (Conteudo_campo(*carregado.campo) == carregado.conteudo) {
+      adiantamento.Intocadas.append(carregado.coluna);
+    }
+  }
 }
 
 void frmAdiantamento::reject() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QList>
 #include <QString>
 #include <cstdint>
 #include <memory>
@@ -59,11 +60,19 @@ class frmAdiantamento : public QDialog {
   void acerta_devolucao();
   void preenche_adiantamento();
 
+  // The list shows less than the row holds: what is not altered here is not written from here.
+  struct CampoCarregado {
+    const QWidget* campo;
+    QString coluna;
+    QString conteudo;
+  };
+
   std::unique_ptr<Ui::frmAdiantamento> ui_;
   ContextoEmpenho contexto_;
   bool novo_;
-  bool ativado_ = false;
+  bool volta_de_caixa_ = false;  // a box or list of its own has the keyboard
   DatasRecusadas datas_;
+  QList<CampoCarregado> carregados_;
   QString carregado_;  // the contents when loaded
 };
 

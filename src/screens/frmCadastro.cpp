@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QTabBar>
+#include <utility>
 
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
@@ -143,12 +144,8 @@ void frmCadastro::liga_janela() {
           Evento(this, &frmCadastro::cmdAplicar_Click));
   connect(ui_->cmdImprimir, &QPushButton::clicked, this,
           Evento(this, &frmCadastro::cmdImprimir_Click));
-  connect(Command1[0], &QPushButton::clicked, this, Evento(this, &frmCadastro::Sair));
-  Ao_escapar(*this, Evento([this] {
-    if (fechamento_.permite()) {
-      Sair();
-    }
-  }));
+  connect(Command1[0], &QPushButton::clicked, this, Evento([this] { close(); }));
+  Ao_escapar(*this, Evento([this] { close(); }));
 }
 
 void frmCadastro::liga_empenho() {
@@ -253,16 +250,12 @@ void frmCadastro::chega_requisicao() {
   }
 }
 
-void frmCadastro::Sair() {
-  if (atualiza_ao_sair_) {
-    Lista_principal(FiltroStatus);
-  }
-  fechamento_.fecha();
-}
-
 void frmCadastro::closeEvent(QCloseEvent* evento) {
   frmAdiantamento* const empenho = dialogo();
   evento->setAccepted(empenho == nullptr || empenho->close());
+  if (evento->isAccepted() && std::exchange(atualiza_ao_sair_, false)) {
+    Lista_principal(FiltroStatus);
+  }
 }
 
 const Ui::QuadroRequisicao& frmCadastro::campos() const {
@@ -279,8 +272,7 @@ std::int32_t frmCadastro::processo() const {
 }
 
 bool frmCadastro::tem_digitacao() const {
-  return ui_->fracadastro->tem_digitacao() ||
-         (ui_->fraNotas->isEnabled() && Conteudo_digitado(*ui_->fraNotas) != nota_salva_);
+  return ui_->fracadastro->tem_digitacao() || nota_digitada();
 }
 
 // A key or a click on the list of empenhos, beside its rows too, takes up the one last clicked.

@@ -34,7 +34,8 @@ class frmCadastro : public QWidget {
   ~frmCadastro() override;
 
  protected:
-  // The open dialog of the empenho closes first; kept open, it keeps this window open too.
+  // The open dialog of the empenho closes first; kept open, it keeps this window open too. Then the
+  // main list is brought up to date where it has become stale.
   void closeEvent(QCloseEvent* evento) override;
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
@@ -50,7 +51,6 @@ class frmCadastro : public QWidget {
   void carrega_processo();
   void SSTab1_Click(int pagina);
   void chega_requisicao();
-  void Sair();
   bool tem_digitacao() const;
   // The fields of the requisition.
   const Ui::QuadroRequisicao& campos() const;
@@ -61,6 +61,7 @@ class frmCadastro : public QWidget {
   // The requisition (frmCadastro_requisicao.cpp)
   void Carrega_dados();
   void cmdAplicar_Click();
+  void avanca_contador();
   bool aceita_outro_aberto();
   void cmdOk_Click();
   void cmdImprimir_Click();
@@ -74,6 +75,8 @@ class frmCadastro : public QWidget {
   void cmdalterar_Click();
   void cmdexcluir_Click();
   bool falta_selecao();
+  // Asks before the requisition can be altered no more; true when nothing was typed, or it may go.
+  bool larga_requisicao();
   void mostra_empenho(bool altera);
   // The open dialog of the empenho; null for none.
   frmAdiantamento* dialogo() const;
@@ -101,6 +104,10 @@ class frmCadastro : public QWidget {
   // Lists the notes anew and tells their total.
   void relista_notas();
   void limpa_nota();
+  // Whether a note was typed and neither saved nor given up.
+  bool nota_digitada() const;
+  // Asks before a typed note goes; true when there is none, or it may go.
+  bool larga_nota() const;
   void txtordem_Change(const QString& texto);
   void txtrazao_social_Change(const QString& texto);
 
@@ -118,7 +125,9 @@ class frmCadastro : public QWidget {
   bool atualiza_ao_sair_ = false;  // the main list has become stale
   bool altera_nota_ = false;       // "Gravar" alters the note of txtseq
   QString nota_salva_;             // the typed contents of the note when last loaded or saved
-  bool apagando_ = false;          // the history is being shortened, not typed
+  ValorMostrado valor_nota_;
+  DateTime data_nota_;     // of the note being altered
+  bool apagando_ = false;  // the history is being shortened, not typed
   Fechamento fechamento_;
 };
 

@@ -74,6 +74,16 @@ bool frmCadastro::falta_selecao() {
   return true;
 }
 
+// What is given up is not asked for again.
+bool frmCadastro::larga_requisicao() {
+  QuadroRequisicao& quadro = *ui_->fracadastro;
+  if (quadro.tem_digitacao() && !Confirma_abandono()) {
+    return false;
+  }
+  quadro.marca_salvo();
+  return true;
+}
+
 frmAdiantamento* frmCadastro::dialogo() const {
   auto* const aberto = findChild<frmAdiantamento*>(QString(), Qt::FindDirectChildrenOnly);
   return aberto != nullptr && OpenForms::all().contains(aberto) ? aberto : nullptr;
@@ -81,6 +91,9 @@ frmAdiantamento* frmCadastro::dialogo() const {
 
 // The dialog leaves this window usable; one that is open already comes to the front as it is.
 void frmCadastro::mostra_empenho(bool altera) {
+  if (!larga_requisicao()) {
+    return;
+  }
   atualiza_ao_sair_ = true;
   AlteraEmpenho = altera ? -1 : 0;
   ui_->cmdAplicar->setEnabled(false);
@@ -102,7 +115,7 @@ void frmCadastro::mostra_empenho(bool altera) {
 }
 
 void frmCadastro::cmdexcluir_Click() {
-  if (falta_selecao()) {
+  if (falta_selecao() || !larga_requisicao()) {
     return;
   }
   atualiza_ao_sair_ = true;
@@ -119,7 +132,14 @@ void frmCadastro::cmdexcluir_Click() {
   ui_->fracadastro->setEnabled(false);
 }
 
+// A note that is given up is not asked for again.
 void frmCadastro::cmdPrestacao_Click() {
+  if (!larga_nota()) {
+    return;
+  }
+  if (nota_digitada()) {
+    Cancelar();
+  }
   ListView& lista = *ui_->lstEmpenho;
   if (lista.count() > 0) {
     lista.selectRow(0);
@@ -147,7 +167,7 @@ void frmCadastro::cmdEncerrar_Click() {
   Lista_principal(FiltroStatus);
   lista_empenhos();
   if (imprimiu) {
-    fechamento_.fecha();
+    close();
   }
 }
 

@@ -89,6 +89,8 @@ std::int32_t frmCadastro::empenho_identificado() const {
 // The date stays, so that a run of notes of one day needs it typed once.
 void frmCadastro::Incluir() {
   altera_nota_ = false;
+  valor_nota_.esquece();
+  data_nota_ = DateTime();
   ui_->fraNotas->setEnabled(true);
   limpa_nota();
   Command1[3]->setEnabled(false);
@@ -99,6 +101,14 @@ void frmCadastro::Incluir() {
   nota_salva_ = Conteudo_digitado(*ui_->fraNotas);
 }
 
+bool frmCadastro::nota_digitada() const {
+  return ui_->fraNotas->isEnabled() && Conteudo_digitado(*ui_->fraNotas) != nota_salva_;
+}
+
+bool frmCadastro::larga_nota() const {
+  return !nota_digitada() || Confirma_abandono();
+}
+
 void frmCadastro::limpa_nota() {
   ui_->txtordem->clear();
   ui_->txtrazao_social->clear();
@@ -106,19 +116,20 @@ void frmCadastro::limpa_nota() {
 }
 
 void frmCadastro::Alterar() {
-  if (Convert::toI32(ui_->txtseq->text()) == 0) {
+  if (Convert::toI32(ui_->txtseq->text()) == 0 || !larga_nota()) {
     return;
   }
   altera_nota_ = true;
   cPrestContas& nota = cPrestContas::compartilhada();
   nota.Envia_dados(Convert::toI16(ui_->txtseq->text()));
+  data_nota_ = nota.Data;
   ui_->txtdatanota->setText(Format(nota.Data, u"dd/MM/yyyy"));
   ui_->txtordem->setText(nota.Ordem);
   {
     const QSignalBlocker sem_busca(ui_->txtrazao_social);
     ui_->txtrazao_social->setText(nota.Historico);
   }
-  ui_->mskValor_nota->setText(Format(nota.Despesas, kResumo));
+  valor_nota_.mostra(*ui_->mskValor_nota, nota.Despesas, Format(nota.Despesas, kResumo));
   ui_->fraNotas->setEnabled(true);
   Command1[3]->setEnabled(false);
   Command1[2]->setEnabled(true);
@@ -155,6 +166,9 @@ bool frmCadastro::nota_aceita() {
   if (ui_->mskValor_nota->text().isEmpty()) {
     return recusa("Informe um valor !!", ui_->mskValor_nota);
   }
+  if (Avisa_valor_recusado(*ui_->mskValor_nota)) {
+    return false;
+  }
   const ListView& lista = *ui_->lstEmpenho;
   const QString retirada = lista.subItem(lista.selectedRow(), kRetirada);
   if (!retirada.isEmpty() && Convert::toDateTime(digitada) < Convert::toDateTime(retirada)) {
@@ -173,10 +187,10 @@ void frmCadastro::grava_nota() {
   cPrestContas& nota = cPrestContas::compartilhada();
   nota.Seq = Convert::toI16(ui_->txtseq->text());
   nota.processo = empenho_identificado();
-  nota.Data = Convert::toDateTime(ui_->txtdatanota->text());
+  nota.Data = Com_hora_carregada(Convert::toDateTime(ui_->txtdatanota->text()), data_nota_);
   nota.Ordem = ui_->txtordem->text().trimmed();
   nota.Historico = Remove_acentos(ui_->txtrazao_social->text().trimmed());
-  nota.Despesas = ui_->mskValor_nota->value();
+  nota.Despesas = valor_nota_.valor(*ui_->mskValor_nota);
   nota.ID_Viagem = 0;
   if (!nota.Save_prest(altera_nota_ ? kAlteracao : kInclusao)) {
     return;
@@ -219,6 +233,9 @@ void frmCadastro::mnExcluir_Click() {
   const QString item = linha < 0 ? QString() : ui_->lstNotas->text(linha);
   if (item.isEmpty()) {
     Dialogs::stop(QStringLiteral("Informe um item !!!"), kAviso);
+    return;
+  }
+  if (!larga_nota()) {
     return;
   }
   if (!Dialogs::confirm(QStringLiteral("Confirma exclusão deste item? - ") + item, kAviso)) {

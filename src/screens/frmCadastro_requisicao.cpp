@@ -1,5 +1,6 @@
 // The requisition side of the process screen: loading, saving, printing.
 #include "foundation/Banco.h"
+#include "foundation/Evento.h"
 #include "foundation/Ini.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Convert.h"
@@ -47,17 +48,23 @@ void frmCadastro::cmdAplicar_Click() {
   if (!requisicao.Save_req(inclui ? kInclusao : kAlteracao)) {
     return;
   }
+  if (inclui) {
+    avanca_contador();
+  }
   ui_->fracadastro->marca_salvo();
   Lista_principal(FiltroStatus);
   ui_->cmdAplicar->setEnabled(false);
   ui_->cmdOk->setEnabled(true);
   ui_->cmdImprimir->setEnabled(true);
   ui_->cmdOk->setFocus();
-  // Last, so that a counter that cannot be written leaves no screen that offers to save once more.
-  if (inclui) {
+}
+
+// A counter that cannot be written is told, and leaves no screen that offers to save once more.
+void frmCadastro::avanca_contador() {
+  Evento([this] {
     Grava_ini(QStringLiteral("Contador"), QStringLiteral("number"),
               campos().mskprocesso->text().left(4), caminhos.number);
-  }
+  })();
 }
 
 // The warning goes by the places of person and type in their lists, not by their keys. It only
@@ -77,11 +84,16 @@ bool frmCadastro::aceita_outro_aberto() {
 }
 
 void frmCadastro::cmdOk_Click() {
-  Lista_principal(FiltroStatus);
-  fechamento_.fecha();
+  if (fechamento_.permite()) {
+    atualiza_ao_sair_ = true;
+    fechamento_.fecha();
+  }
 }
 
 void frmCadastro::cmdImprimir_Click() {
+  if (!fechamento_.permite()) {
+    return;
+  }
   if (imprime_requisicao(QStringLiteral("Select * from Sel_Print_req WHERE Requisicao.SEQ = ") +
                          numero_processo())) {
     fechamento_.fecha();

@@ -43,6 +43,9 @@ QString valor_positivo(const QString& texto) {
 }  // namespace
 
 void frmCadastro::imprime_prestacao() {
+  if (!fechamento_.permite()) {
+    return;
+  }
   Sob_trava(kFuncaoImprimir, [this] {
     const ListView& lista = *ui_->lstEmpenho;
     const int linha = lista.selectedRow();

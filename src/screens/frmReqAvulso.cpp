@@ -26,8 +26,8 @@ frmReqAvulso::frmReqAvulso(QWidget* parent)
           Evento(this, &frmReqAvulso::cmdAplicar_Click));
   connect(ui_->cmdImprimir, &QPushButton::clicked, this,
           Evento(this, &frmReqAvulso::cmdImprimir_Click));
-  connect(ui_->cmdOk, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
-  connect(ui_->Command1_0, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
+  connect(ui_->cmdOk, &QPushButton::clicked, this, [this] { close(); });
+  connect(ui_->Command1_0, &QPushButton::clicked, this, [this] { close(); });
   Ao_escapar(*this, [this] { close(); });
   Form_Load();
 }
@@ -65,6 +65,9 @@ void frmReqAvulso::cmdAplicar_Click() {
 }
 
 void frmReqAvulso::cmdImprimir_Click() {
+  if (!fechamento_.permite()) {
+    return;
+  }
   if (imprime_requisicao(
           QStringLiteral("Select * from Sel_Print_reqavulso WHERE ReqAvulso.SEQ = ") +
           ui_->fracadastro->campos().mskprocesso->text())) {

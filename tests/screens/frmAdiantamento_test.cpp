@@ -3,6 +3,9 @@
 
 #include <QCalendarWidget>
 #include <QCheckBox>
+#include <QMessageBox>
+#include <QTimer>
+#include <QToolButton>
 
 #include "platform/controls/MaskedBox.h"
 #include "tests/screens/ProcessDesk.h"
@@ -290,6 +293,126 @@ class frmAdiantamentoTest : public QObject {
     QVERIFY2(dialogs.satisfied(), dialogs.report());
   }
 
+  // Each is told by itself, the one refused first at first; nothing is saved until both are looked
+  // at.
+  void everyRefusedDateIsTold() {
+    openToEdit();
+    type("dtpabertura", "3102");
+    type("dtpfechar_em", "31022014");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Data inválida!!"));
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(focused(), QString("dtpabertura"));
+    dialogs.expectBox(test::warning("Data inválida!!"));
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(focused(), QString("dtpfechar_em"));
+    dialogs.expectBox(boxes::askAlteration(), Button::No);
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+  }
+
+  void aDateCorrectedSinceIsNotTold() {
+    openToEdit();
+    type("dtpabertura", "3102");
+    type("dtpfechar_em", "31022014");
+    type("dtpabertura", "02112014");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Data inválida!!"));
+    click("Command1");
+    QCOMPARE(focused(), QString("dtpfechar_em"));
+    dialogs.expectBox(boxes::askAlteration(), Button::No);
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+  }
+
+  void numbersThatAreNoneAreRefused_data() {
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<QString>("message");
+    const QString number = "Informe o número do Empenho !!";
+    const QString order = "Informe o número da OP !!";
+    QTest::newRow("empenho nought") << QByteArray("mskempenho") << "0000000" << number;
+    QTest::newRow("nought of a year") << QByteArray("mskempenho") << "0000014" << number;
+    QTest::newRow("a single nought") << QByteArray("mskempenho") << "0" << number;
+    QTest::newRow("order with decimals") << QByteArray("mskOP") << "1,999999" << order;
+    QTest::newRow("order in letters") << QByteArray("mskOP") << "12a" << order;
+    QTest::newRow("negative order") << QByteArray("mskOP") << "-1" << order;
+  }
+  void numbersThatAreNoneAreRefused() {
+    QFETCH(QByteArray, field);
+    QFETCH(QString, message);
+    openNew();
+    fill();
+    QFETCH(QString, pasted);
+    paste(field.constData(), pasted);
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning(message));
+    click("Command1");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(isOpen());
+    QCOMPARE(focused(), QString::fromLatin1(field));
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM Adiantamento"), QString("0"));
+  }
+
+  // The list shows days and cents; the row may hold more.
+  void whatWasNotTypedIsSavedAsItWas() {
+    const char* exact =
+        "SELECT ABERTURA||'|'||RETIRADA||'|'||FECHAR_EM||'|'||FECHAMENTO||'|'||DEVOLUCAO||'|'||"
+        "DATADEV||'|'||OP FROM Adiantamento";
+    openToEdit(
+        "UPDATE Adiantamento SET ABERTURA = '2014-11-01 08:30:00', RETIRADA = '2014-11-03 "
+        "09:00:00', FECHAR_EM = '2014-12-03 10:00:00', FECHAMENTO = '2014-11-20 11:00:00', "
+        "DEVOLUCAO = 123456, DATADEV = '2014-11-19 12:00:00'");
+    const QString before = desk_->office().ask(exact);
+    QVERIFY(before.contains("|123456|"));
+    saveAltered();
+    QCOMPARE(desk_->office().ask(exact), before);
+    openSelected();
+    type("dtpfechamento", "21112014");
+    type("mskdev", "1,5");
+    saveAltered();
+    QCOMPARE(desk_->office().ask(exact),
+             QString("2014-11-01 08:30:00|2014-11-03 09:00:00|2014-12-03 10:00:00|2014-11-21 "
+                     "00:00:00|15000|2014-11-19 12:00:00|77"));
+  }
+
+  // A new empenho begins with its number, however often the operator comes back to it.
+  void eachActivationOfANewOneGoesToTheNumber() {
+    openNew();
+    child<QWidget>("mskOP")->setFocus();
+    comeBack();
+    QCOMPARE(focused(), QString("mskempenho"));
+    child<QWidget>("dtpretirada")->setFocus();
+    comeBack();
+    QCOMPARE(focused(), QString("mskempenho"));
+  }
+
+  void activationOfASavedOneLeavesTheFocus() {
+    openToEdit();
+    child<QWidget>("dtpretirada")->setFocus();
+    comeBack();
+    QCOMPARE(focused(), QString("dtpretirada"));
+  }
+
+  // A box that really takes the keyboard leaves the focus on the field that it speaks of.
+  void aBoxLeavesTheFocusOnItsField() {
+    openNew();
+    fill();
+    child<MaskedBox>("mskOP")->setText({});
+    QMessageBox box(QMessageBox::Warning, "Aviso", "x", QMessageBox::Ok, dialog_);
+    QTimer::singleShot(0, &box, [&box] {
+      QTRY_VERIFY(box.isActiveWindow());
+      box.accept();
+    });
+    child<QWidget>("mskOP")->setFocus();
+    box.exec();
+    dialog_->activateWindow();
+    QTRY_VERIFY(dialog_->isActiveWindow());
+    QCOMPARE(focused(), QString("mskOP"));
+  }
+
   void proposesTheDeadline_data() {
     QTest::addColumn<QString>("prazo");
     QTest::addColumn<QString>("deadline");
@@ -336,8 +459,12 @@ class frmAdiantamentoTest : public QObject {
     QTest::addColumn<QString>("dates");
     QTest::newRow("click, money left") << "click" << 300 << "700,00"
                                        << "|";
-    QTest::newRow("typed, money left") << "type" << 300 << "700,00"
-                                       << "15/11/2014|";
+    QTest::newRow("click on its picture") << "picture" << 300 << "700,00"
+                                          << "|";
+    QTest::newRow("right click") << "right" << 300 << "5,00"
+                                 << "|";
+    QTest::newRow("typed") << "type" << 300 << "5,00"
+                           << "15/11/2014|";
     QTest::newRow("calendar, money left") << "calendar" << 300 << "700,00"
                                           << "10/11/2014|10/11/2014";
     QTest::newRow("calendar, nothing left") << "calendar" << 1000 << "0,00"
@@ -355,6 +482,14 @@ class frmAdiantamentoTest : public QObject {
     QCOMPARE(text("mskdev"), QString("5,00"));
     if (way == "click") {
       QTest::mouseClick(date("dtpfechamento"), Qt::LeftButton);
+    } else if (way == "picture") {
+      QTest::mouseClick(date("dtpfechamento")->findChild<QToolButton*>(), Qt::LeftButton);
+      QTRY_VERIFY(QApplication::activePopupWidget());
+      QApplication::activePopupWidget()->close();
+    } else if (way == "right") {
+      // The menu that a right click opens is not wanted here.
+      date("dtpfechamento")->setContextMenuPolicy(Qt::PreventContextMenu);
+      QTest::mouseClick(date("dtpfechamento"), Qt::RightButton);
     } else if (way == "type") {
       type("dtpfechamento", "15112014");
     } else {
@@ -470,6 +605,20 @@ class frmAdiantamentoTest : public QObject {
         child<MaskedBox>(qPrintable(field))->setText({});
       }
     }
+  }
+  // Puts the text in past the filters of single keys.
+  void paste(const char* name, const QString& text) const {
+    auto* line = child<MaskedBox>(name);
+    line->setMaxLength(64);
+    line->setText(text);
+    QVERIFY(line->text().remove('/').startsWith(text));
+  }
+  // To the window that opened the dialog and back.
+  void comeBack() {
+    desk_->window()->activateWindow();
+    QTRY_VERIFY(desk_->window()->isActiveWindow());
+    dialog_->activateWindow();
+    QTRY_VERIFY(dialog_->isActiveWindow());
   }
   void saveAltered() {
     ScriptedDialogs dialogs;

@@ -130,13 +130,18 @@ class frmCadastroEmpenhoTest : public QObject {
 
   void leavingRefreshesOnlyAfterAnEmpenhoCommand_data() {
     QTest::addColumn<QByteArray>("command");
-    QTest::newRow("untouched") << QByteArray();
-    for (const char* name : {"cmdnovo", "cmdalterar", "cmdexcluir"}) {
-      QTest::newRow(name) << QByteArray(name);
+    QTest::addColumn<QByteArray>("way");
+    for (const char* way : {"Sair", "Escape", "frame"}) {
+      for (const char* name : {"untouched", "cmdnovo", "cmdalterar", "cmdexcluir"}) {
+        QTest::addRow("%s, %s", name, way)
+            << (QByteArray(name) == "untouched" ? QByteArray() : QByteArray(name))
+            << QByteArray(way);
+      }
     }
   }
   void leavingRefreshesOnlyAfterAnEmpenhoCommand() {
     QFETCH(QByteArray, command);
+    QFETCH(QByteArray, way);
     if (command == "cmdalterar" || command == "cmdexcluir") {
       desk_->addEmpenho();
     }
@@ -153,7 +158,13 @@ class frmCadastroEmpenhoTest : public QObject {
       QVERIFY2(dialogs.satisfied(), dialogs.report());
     }
     desk_->office().run("DELETE FROM Requisicao");
-    desk_->click("Command1_0");
+    if (way == "Sair") {
+      desk_->click("Command1_0");
+    } else if (way == "Escape") {
+      QTest::keyClick(desk_->window(), Qt::Key_Escape);
+    } else {
+      QVERIFY(desk_->window()->close());
+    }
     QVERIFY(!desk_->isOpen());
     QCOMPARE(desk_->mainList().count(), command.isEmpty() ? 1 : 0);
   }

@@ -600,6 +600,102 @@ class frmCadastroNotasTest : public QObject {
     QCOMPARE(desk_->text("txtrazao_social"), QString("X"));
   }
 
+  // Each of these would put something else in its place.
+  void whatEndsAnEntryAsksFirst_data() {
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"Voltar", "Imprimir", "Alterar", "Excluir"}) {
+      QTest::newRow(way) << QString(way);
+    }
+  }
+  void whatEndsAnEntryAsksFirst() {
+    QFETCH(QString, way);
+    const test::PrintedReports printed;
+    withOneNote();
+    pickNote();
+    desk_->click("Command1_1");
+    desk_->type("txtrazao_social", "OUTRO");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    end(way);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+    QCOMPARE(desk_->text("txtrazao_social"), QString("OUTRO"));
+    QCOMPARE(desk_->child<TwoPageTab>("SSTab1")->current(), 1);
+    QCOMPARE(printed.requests.size(), 0);
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM PrestContas"), QString("1"));
+  }
+
+  void aNoteGivenUpIsNotAskedForAgain() {
+    withOneNote();
+    desk_->click("Command1_3");
+    desk_->type("txtrazao_social", "X");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    desk_->click("cmdPrestacao");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->child<TwoPageTab>("SSTab1")->current(), 0);
+    desk_->click("Command1_0");
+    QVERIFY(!desk_->isOpen());
+  }
+
+  // The slip ends the window, but not what was typed behind it.
+  void closingWithASlipAsksForATypedNote() {
+    const test::PrintedReports printed;
+    desk_->addNoteRows();
+    desk_->click("Command1_3");
+    desk_->type("txtrazao_social", "X");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::informedQuestion("Deseja Encerrar o Adiantamento agora?"), Button::Yes);
+    dialogs.expectBox({.text = "Empenho Encerrado!!!",
+                       .title = "Finalizar Prestação de Contas",
+                       .icon = BoxIcon::Information});
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    desk_->click("cmdEncerrar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+    QCOMPARE(desk_->text("txtrazao_social"), QString("X"));
+    QCOMPARE(printed.requests.size(), 1);
+  }
+
+  void whatWasNotTypedIsSavedAsItWas() {
+    const char* exact = "SELECT DATA||'|'||DESPESAS FROM PrestContas";
+    withOneNote();
+    desk_->office().run("UPDATE PrestContas SET DATA = '2014-11-05 07:08:09', DESPESAS = 123456");
+    pickNote();
+    doStep('A');
+    QCOMPARE(desk_->text("mskValor_nota"), QString("12,35"));
+    desk_->widget("mskValor_nota")->setFocus();
+    doStep('G');
+    QCOMPARE(desk_->office().ask(exact), QString("2014-11-05 07:08:09|123456"));
+    doStep('A');
+    desk_->type("mskValor_nota", "1,2");
+    desk_->type("txtdatanota", "06112014");
+    doStep('G');
+    QCOMPARE(desk_->office().ask(exact), QString("2014-11-06 00:00:00|12000"));
+  }
+
+  // It shows as ",00".
+  void aNoteOfNothingCanBeAltered() {
+    withOneNote();
+    desk_->office().run("UPDATE PrestContas SET DESPESAS = 0");
+    doStep('A');
+    desk_->type("txtrazao_social", "OUTRO");
+    doStep('G');
+    QCOMPARE(desk_->office().ask("SELECT HISTORICO||DESPESAS FROM PrestContas"), QString("OUTRO0"));
+  }
+
+  void anAmountThatIsNoneIsRefused() {
+    desk_->openNotes();
+    note("05/11/2014", "1", "X", "5");
+    desk_->child<MoneyEdit>("mskValor_nota")->setText("1.2.3");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Valor inválido!!"));
+    desk_->click("Command1_2");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->focused(), QString("mskValor_nota"));
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM PrestContas"), QString("0"));
+  }
+
   void aNoteOnlyLookedAtIsNotAskedFor_data() {
     QTest::addColumn<bool>("deleted");
     QTest::newRow("loaded") << false;
@@ -655,6 +751,15 @@ class frmCadastroNotasTest : public QObject {
     desk_->click("cmdPrestacao");
   }
   void pickNote() { test::ProcessDesk::clickRow(desk_->list("lstNotas"), 0); }
+  void end(const QString& way) {
+    if (way == "Excluir") {
+      QTest::keyClick(desk_->list("lstNotas"), Qt::Key_Delete);
+    } else {
+      desk_->click(way == "Voltar"    ? "cmdPrestacao"
+                   : way == "Alterar" ? "Command1_1"
+                                      : "Command1_4");
+    }
+  }
   void doStep(QChar step) {
     ScriptedDialogs dialogs;
     if (step == 'I') {

@@ -531,6 +531,22 @@ class frmCadastroRequisicaoTest : public QObject {
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->enabled("cmdAplicar cmdOk cmdImprimir"), "011");
     QCOMPARE(desk_->office().ask("SELECT count(*) FROM Requisicao"), "2");
+    QCOMPARE(desk_->mainList().count(), 2);
+  }
+
+  // Whatever becomes of the list, the number is counted as soon as its row is saved.
+  void theCounterMovesBeforeTheListIsRefilled() {
+    desk_->openNew();
+    desk_->fillRequisition();
+    QString seen;
+    QObject::connect(desk_->mainList().model(), &QAbstractItemModel::modelReset, desk_->window(),
+                     [&] { seen = seen.isEmpty() ? counter() : seen; });
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saved());
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(seen, "0328");
   }
 
   void staysAboveTheMainWindow() {
@@ -658,21 +674,85 @@ class frmCadastroRequisicaoTest : public QObject {
     QVERIFY(OpenForms::find("frmCadastro") == nullptr);
   }
 
-  void itsOwnCommandsCloseWithoutAsking_data() {
+  void itsOwnCommandsAskToo_data() {
     QTest::addColumn<QByteArray>("button");
-    for (const char* name : {"Command1_0", "cmdOk", "cmdImprimir"}) {
-      QTest::newRow(name) << QByteArray(name);
-    }
+    QTest::addColumn<int>("printouts");
+    QTest::newRow("Sair") << QByteArray("Command1_0") << 0;
+    QTest::newRow("OK") << QByteArray("cmdOk") << 0;
+    QTest::newRow("Imprimir") << QByteArray("cmdImprimir") << 1;
   }
-  void itsOwnCommandsCloseWithoutAsking() {
+  void itsOwnCommandsAskToo() {
     QFETCH(QByteArray, button);
     const test::PrintedReports printed;
     desk_->openNew();
     savedState();
     desk_->type("txtjustificativa", "mais");
     ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
     desk_->click(button.constData());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+    QVERIFY(desk_->text("txtjustificativa").contains("mais"));
+    QCOMPARE(printed.requests.size(), 0);
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    desk_->click(button.constData());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
     QVERIFY(!desk_->isOpen());
+    QTEST(int(printed.requests.size()), "printouts");
+  }
+
+  // Behind these commands the requisition can be altered no more.
+  void whatFreezesTheRequisitionAsksFirst_data() {
+    QTest::addColumn<QByteArray>("button");
+    for (const char* name : {"cmdnovo", "cmdalterar", "cmdexcluir"}) {
+      QTest::newRow(name) << QByteArray(name);
+    }
+  }
+  void whatFreezesTheRequisitionAsksFirst() {
+    QFETCH(QByteArray, button);
+    if (button != "cmdnovo") {
+      registra_lista_principal(nullptr, nullptr);
+      desk_->addEmpenho();
+    }
+    desk_->openProcess();
+    desk_->type("mskvalor", "5");
+    if (button != "cmdnovo") {
+      test::ProcessDesk::clickRow(desk_->list("lstEmpenho"), 0);
+    }
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    desk_->click(button.constData());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->enabled("fracadastro cmdAplicar"), "11");
+    QCOMPARE(desk_->text("mskvalor"), "5,00");
+  }
+
+  // What the screen rounds or does not show at all.
+  void whatWasNotTypedIsSavedAsItWas() {
+    const char* exact = "SELECT DATA||'|'||VALOR FROM Requisicao";
+    desk_->office().run("UPDATE Requisicao SET DATA = '2014-11-03 16:45:00', VALOR = 123456");
+    desk_->openProcess();
+    QCOMPARE(desk_->text("mskvalor"), "12,35");
+    desk_->widget("mskvalor")->setFocus();
+    desk_->widget("dtpdata")->setFocus();
+    saveAltered();
+    QCOMPARE(desk_->office().ask(exact), "2014-11-03 16:45:00|123456");
+    desk_->openProcess();
+    desk_->type("mskvalor", "12,34");
+    desk_->type("dtpdata", "04112014");
+    saveAltered();
+    QCOMPARE(desk_->office().ask(exact), "2014-11-04 00:00:00|123400");
+  }
+
+  void anAmountThatIsNoneIsRefused() {
+    desk_->openProcess();
+    desk_->child<MoneyEdit>("mskvalor")->setText("1.2.3");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::warning("Valor inválido!!"));
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->focused(), "mskvalor");
+    QCOMPARE(desk_->office().ask("SELECT VALOR FROM Requisicao"), "10000000");
   }
 
  private:

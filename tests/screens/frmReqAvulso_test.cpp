@@ -276,20 +276,15 @@ class frmReqAvulsoTest : public QObject {
              QString("3|3|3|7"));
   }
 
-  // The keys are filled in field by field; the type's has its place in the list until then.
   void anAmountThatIsNoneIsToldAndLosesNothing() {
     desk_->show();
     desk_->fillRequisition();
-    desk_->pick("cmbTipo", "Viagem");
-    desk_->pick("cmbficha", "200");
     desk_->child<QLineEdit>("mskvalor")->setText("muito");
-    cReqAvulso::compartilhada().Finalidade = 77;
     ScriptedDialogs dialogs;
-    dialogs.expectBox(test::untrapped(ErrorNumber::TypeMismatch));
+    dialogs.expectBox(test::warning("Valor inválido!!"));
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(int{cReqAvulso::compartilhada().Tomador}, 1);
-    QCOMPARE(int{cReqAvulso::compartilhada().Finalidade}, 1);
+    QCOMPARE(desk_->focused(), QString("mskvalor"));
     QCOMPARE(desk_->rows(), QString("0"));
     QCOMPARE(desk_->enabled(kButtons), QString("1001"));
     QCOMPARE(desk_->text("txtjustificativa"), QString("Compras miúdas"));
@@ -484,9 +479,42 @@ class frmReqAvulsoTest : public QObject {
     desk_->show();
     desk_->fillRequisition();
     ScriptedDialogs dialogs;
+    dialogs.expectBox(test::askAbandon(), Button::No);
     desk_->click("Command1_0");
+    QVERIFY(desk_->isOpen());
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    desk_->click("Command1_0");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
     QVERIFY(!desk_->isOpen());
     QCOMPARE(desk_->rows(), QString("0"));
+  }
+
+  void whatIsTypedAfterTheSaveIsAskedForToo_data() {
+    QTest::addColumn<QByteArray>("button");
+    for (const char* name : {"cmdOk", "cmdImprimir", "Command1_0"}) {
+      QTest::newRow(name) << QByteArray(name);
+    }
+  }
+  void whatIsTypedAfterTheSaveIsAskedForToo() {
+    QFETCH(QByteArray, button);
+    const test::PrintedReports printed;
+    desk_->show();
+    desk_->fillRequisition();
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saved());
+    desk_->click("cmdAplicar");
+    desk_->type("txtjustificativa", "mais");
+    dialogs.expectBox(test::askAbandon(), Button::No);
+    desk_->click(button.constData());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(desk_->isOpen());
+    QCOMPARE(printed.requests.size(), 0);
+    dialogs.expectBox(test::askAbandon(), Button::Yes);
+    desk_->click(button.constData());
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(!desk_->isOpen());
+    QCOMPARE(printed.requests.size(), button == "cmdImprimir" ? 1 : 0);
   }
 
   void escapeAsksBeforeTypingIsLost() {
