@@ -4,6 +4,7 @@
 
 #include "foundation/Erros.h"
 #include "foundation/Ini.h"
+#include "foundation/Passos.h"
 #include "foundation/Splash.h"
 #include "foundation/frmParametros.h"
 #include "platform/dialogs/Dialogs.h"
@@ -46,7 +47,7 @@ void Abre_conexao() {
       QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + caminhos.geral + ';';
   Conexao = std::make_unique<Connection>();
   if (Conexao->state() == Connection::Closed) {
-    Conexao->open(texto);
+    Conexao->open(texto, passos_do_banco());
   }
   Conexao->setCursorLocation(Connection::Client);
 }
