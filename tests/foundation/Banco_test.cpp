@@ -120,6 +120,36 @@ class BancoTest : public QObject {
     QVERIFY(UmaJanela<frmParametros>::aberta() != nullptr);
   }
 
+  void aFileOfANewerProgramIsToldUnchangedAndShowsTheSettings() {
+    office_->run("PRAGMA user_version = 99");
+    const QByteArray before = read(office_->file(QStringLiteral("Banco.mdb")));
+    test::ScriptedDialogs dialogs;
+    dialogs.expectBox({.text = test::kAnything + QStringLiteral("é da versão 99") + test::kAnything,
+                       .icon = BoxIcon::Exclamation});
+    Abre_banco();
+    QVERIFY(UmaJanela<frmParametros>::aberta() != nullptr);
+    QCOMPARE(read(office_->file(QStringLiteral("Banco.mdb"))), before);
+  }
+
+  // As the first delivery left it: the program goes on with the file and keeps a copy of what it
+  // was.
+  void aFileOfAnOlderProgramIsBroughtForward() {
+    office_->run(
+        "UPDATE Consultas SET TEXTO = 'SELECT Viagem.ITEM FROM Viagem;' WHERE NOME = "
+        "'Sel_Viagem'");
+    office_->run("DROP TABLE IdentificaTransp");
+    office_->run(
+        "CREATE TABLE IdentificaTransp (ITEM INTEGER PRIMARY KEY AUTOINCREMENT, PLANILHA, "
+        "PROCESSO, DATA, DESTINO, LOCALIDADE, VEÍCULO, PLACA, HSAIDA, HCHEGADA, MOTORISTA, "
+        "ACOMPANHANTE, OBS, MOTIVO)");
+    office_->run("PRAGMA user_version = 1");
+    Abre_conexao();
+    Tabela.open(QStringLiteral("Sel_Viagem"), *Conexao);
+    QVERIFY(Tabela.fieldCount() > 1);
+    Fecha_banco();
+    QVERIFY(QFile::exists(office_->file(QStringLiteral("Banco.mdb.versao-1"))));
+  }
+
   void closingLeavesOneFileAndAClosedConnection() {
     Abre_conexao();
     Tabela.open(QStringLiteral("Orgao"), *Conexao);
