@@ -334,6 +334,13 @@ void ListView::mousePressEvent(QMouseEvent* event) {
   }
 }
 
+// Dragging would make another row current than the one that was told.
+void ListView::mouseMoveEvent(QMouseEvent* event) {
+  if (event->buttons() == Qt::NoButton) {
+    QTreeView::mouseMoveEvent(event);
+  }
+}
+
 void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
   const int row = rowAt(event->position().toPoint());
   QTreeView::mouseDoubleClickEvent(event);

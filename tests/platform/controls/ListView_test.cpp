@@ -43,6 +43,7 @@ class ListViewTest : public QObject {
   void selectingByProgramIsSilent();
   void fillingIsSilent();
   void clicksTellTheRow();
+  void aPressThatIsDraggedStaysOnItsRow();
   void pressBesideTheRowsTellsNothing();
   void doubleClickAndEnterActivate();
   void deleteAsksForDeletion();
@@ -244,6 +245,24 @@ void ListViewTest::clicksTellTheRow() {
   QTest::mouseClick(list_->viewport(), Qt::RightButton, {}, middleOf(*list_, 0));
   QCOMPARE(clicked.size(), 1);
   QCOMPARE(clicked.takeFirst().at(0).toInt(), 0);
+  QCOMPARE(list_->selectedRow(), 0);
+}
+
+// The row last told is the one that shows as current.
+void ListViewTest::aPressThatIsDraggedStaysOnItsRow() {
+  for (const char* text : {"a", "b", "c", "d"}) {
+    list_->addItem(QLatin1String(text));
+  }
+  show();
+  QSignalSpy clicked(list_.get(), &ListView::itemClicked);
+  QTest::mousePress(list_->viewport(), Qt::LeftButton, {}, middleOf(*list_, 0));
+  const QPoint below = middleOf(*list_, 3);
+  QMouseEvent move(QEvent::MouseMove, below, list_->viewport()->mapToGlobal(below), Qt::NoButton,
+                   Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(list_->viewport(), &move);
+  QTest::mouseRelease(list_->viewport(), Qt::LeftButton, {}, below);
+  QCOMPARE(clicked.size(), 1);
+  QCOMPARE(clicked.first().at(0).toInt(), 0);
   QCOMPARE(list_->selectedRow(), 0);
 }
 
