@@ -1,10 +1,18 @@
 #include "screens/frmProcura.h"
 
 #include <QMap>
+#include <utility>
 
+#include "foundation/UmaJanela.h"
 #include "platform/controls/UpperCase.h"
 #include "records/cTodos.h"
 #include "ui_frmProcura.h"
+
+// A static library's pictures are taken up only when asked for, and that from outside of every
+// namespace.
+static void traz_imagens() {
+  Q_INIT_RESOURCE(screens);
+}
 
 namespace quartela {
 
@@ -31,15 +39,15 @@ void prepara_colunas(ListView& lista) {
                                Qt::Alignment lado = Qt::AlignLeft) {
     lista.addColumn(QString::fromUtf8(titulo), ColumnWidth::pixels(largura), lado);
   };
-  coluna("EMPENHO", 90);
-  coluna("NOME", 230);
-  coluna("TIPO", 150);
+  coluna("EMPENHO", 80);
+  coluna("NOME", 206);
+  coluna("TIPO", 116);
   coluna("VALOR", 90, Qt::AlignRight);
-  coluna("RETIRADA", 90);
+  coluna("RETIRADA", 84);
   coluna("FECHAR EM", 90);
-  coluna("ABERTURA", 90);
-  coluna("FUNÇÃO", 140);
-  coluna("PROCESSO", 90);
+  coluna("ABERTURA", 84);
+  coluna("FUNÇÃO", 116);
+  coluna("PROCESSO", 84);
 }
 
 }  // namespace
@@ -48,54 +56,82 @@ void registra_procura(std::int16_t modo, RecebeEmpenho recebe) {
   receptores().insert(modo, std::move(recebe));
 }
 
+void mostra_frmProcura(std::int16_t modo, RecebeEmpenho recebe) {
+  registra_procura(modo, std::move(recebe));
+  const bool outro = modo != std::exchange(ModoProcura, modo);
+  if (frmProcura* const aberta = UmaJanela<frmProcura>::aberta(); aberta != nullptr && outro) {
+    aberta->atende_modo();
+  }
+  UmaJanela<frmProcura>::mostra();
+}
+
 frmProcura::frmProcura(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmProcura>()) {
   ui_->setupUi(this);
+  traz_imagens();
+  ui_->Command3->setIcon(QIcon(QStringLiteral(":/quartela/screens/icons/search.svg")));
   prepara_colunas(*ui_->ListView1);
   typeUpperCase(*ui_->txtprocura);
   connect(ui_->Command3, &QAbstractButton::clicked, this, &frmProcura::Command3_Click);
-  connect(ui_->ListView1, &ListView::itemClicked, this,
-          [this](int linha) { Tag = ui_->ListView1->text(linha); });
-  connect(ui_->ListView1, &ListView::itemActivated, this, &frmProcura::Command1_Click);
+  connect(ui_->ListView1, &ListView::itemClicked, this, &frmProcura::escolhe);
+  connect(ui_->ListView1, &ListView::itemActivated, this, [this](int linha) {
+    escolhe(linha);
+    Command1_Click();
+  });
   connect(ui_->Command1, &QPushButton::clicked, this, &frmProcura::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &frmProcura::close);
-  cTodos::compartilhada().Lista_Procura(*ui_->ListView1,
-                                        ModoProcura == kTab3 ? kEncerrados : kTodosAbertos);
+  atende_modo();
 }
 
 frmProcura::~frmProcura() = default;
+
+void frmProcura::atende_modo() {
+  escolhido_ = {};
+  ui_->txtprocura->clear();
+  lista(ModoProcura == kTab3 ? kEncerrados : kTodosAbertos);
+}
+
+void frmProcura::lista(std::int16_t codigo) {
+  ListView& linhas = *ui_->ListView1;
+  cTodos::compartilhada().Lista_Procura(linhas, codigo);
+  for (int linha = 0; linha < linhas.count(); ++linha) {
+    if (linhas.text(linha) == escolhido_.empenho) {
+      linhas.selectRow(linha);
+      return;
+    }
+  }
+}
+
+void frmProcura::escolhe(int linha) {
+  const ListView& linhas = *ui_->ListView1;
+  escolhido_ = {.empenho = linhas.text(linha), .subitens = {QString()}};
+  for (int n = 1; n < linhas.columnCount(); ++n) {
+    escolhido_.subitens << linhas.subItem(linha, n);
+  }
+}
 
 // The search is always over the open empenhos, also for the window that lists the closed ones.
 void frmProcura::Command3_Click() {
   cTodos& todos = cTodos::compartilhada();
   const bool por_nome = ui_->Option1->isChecked();
   (por_nome ? todos.Nome : todos.Tipo) = ui_->txtprocura->text();
-  todos.Lista_Procura(*ui_->ListView1, por_nome ? kAbertosPorNome : kAbertosPorTipo);
+  lista(por_nome ? kAbertosPorNome : kAbertosPorTipo);
 }
 
 void frmProcura::Command1_Click() {
-  if (Tag.isEmpty()) {
+  if (escolhido_.empenho.isEmpty()) {
     return;
   }
-  entrega(linha_clicada());
+  entrega();
   close();
 }
 
-EmpenhoEscolhido frmProcura::linha_clicada() const {
-  EmpenhoEscolhido escolhido{.empenho = Tag, .subitens = {}};
-  const int linha = ui_->ListView1->selectedRow();
-  for (int n = 0; n < ui_->ListView1->columnCount(); ++n) {
-    escolhido.subitens << (n == 0 || linha < 0 ? QString() : ui_->ListView1->subItem(linha, n));
-  }
-  return escolhido;
-}
-
 // An advance for small expenses bears no transport sheet.
-void frmProcura::entrega(const EmpenhoEscolhido& escolhido) const {
-  if (ModoProcura == kTransporte && escolhido.subitens.at(kTipo) == QStringLiteral("Miúdas")) {
+void frmProcura::entrega() const {
+  if (ModoProcura == kTransporte && escolhido_.subitens.at(kTipo) == QStringLiteral("Miúdas")) {
     return;
   }
   if (const RecebeEmpenho& recebe = receptores().value(ModoProcura)) {
-    recebe(escolhido);
+    recebe(escolhido_);
   }
 }
 

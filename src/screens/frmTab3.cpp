@@ -5,7 +5,6 @@
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
 #include "foundation/Rotinas.h"
-#include "foundation/UmaJanela.h"
 #include "platform/values/Clock.h"
 #include "platform/values/Format.h"
 #include "records/Impressao.h"
@@ -97,10 +96,8 @@ void frmTab3::TabStrip1_Click(int aba) {
 }
 
 void frmTab3::Command2_Click() {
-  registra_procura(kModoProcura,
-                   [this](const EmpenhoEscolhido& escolhido) { recebe_empenho(escolhido); });
-  ModoProcura = kModoProcura;
-  UmaJanela<frmProcura>::mostra();
+  mostra_frmProcura(kModoProcura,
+                    [this](const EmpenhoEscolhido& escolhido) { recebe_empenho(escolhido); });
 }
 
 void frmTab3::recebe_empenho(const EmpenhoEscolhido& escolhido) {

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 
 #include "foundation/Banco.h"
@@ -83,6 +84,24 @@ class frmAvisoTest : public QObject {
     QVERIFY(alert.isVisible());
     QTest::mouseClick(alert.findChild<QPushButton*>(QStringLiteral("Command1")), Qt::LeftButton);
     QVERIFY(!alert.isVisible());
+  }
+
+  void everyColumnIsInView() {
+    office_->run("DELETE FROM Adiantamento");
+    constexpr int kMoreThanFit = 60;
+    for (int n = 0; n < kMoreThanFit; ++n) {
+      office_->run(
+          qPrintable(QStringLiteral("INSERT INTO Adiantamento(EMPENHO, PROCESSO, FECHAR_EM) VALUES "
+                                    "(%1, 114, '2014-11-25 00:00:00')")
+                         .arg(100 * (n + 1000) + 14)));
+    }
+    frmAviso alert;
+    alert.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&alert));
+    auto* const list = alert.findChild<ListView*>(QStringLiteral("lvList"));
+    list->flush();
+    QTRY_VERIFY(list->verticalScrollBar()->isVisible());
+    QCOMPARE(list->horizontalScrollBar()->maximum(), 0);
   }
 
   void aReopenedProcessComesBack() {

@@ -4,8 +4,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTest>
 
+#include "foundation/UmaJanela.h"
 #include "platform/controls/ListView.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/Typing.h"
@@ -121,12 +123,103 @@ class frmProcuraTest : public QObject {
                           "02/10/2014", "Fiscal", "0002/14"}));
   }
 
+  // The first row of a list just filled is current, and yet nobody has picked it.
   void withNothingPickedOkStays() {
-    office_->run("DELETE FROM Adiantamento");
     open(1);
+    QCOMPARE(list()->count(), 2);
     QTest::mouseClick(child<QPushButton>("Command1"), Qt::LeftButton);
     QVERIFY(picker_->isVisible());
     QVERIFY(received_.isEmpty());
+  }
+
+  void handsOverTheRowThatWasPickedWhateverWasSearchedSince_data() {
+    QTest::addColumn<QString>("search");
+    QTest::newRow("another row found") << QStringLiteral("resp");
+    QTest::newRow("nothing found") << QStringLiteral("xyz");
+    QTest::newRow("found again") << QStringLiteral("ávila");
+  }
+  void handsOverTheRowThatWasPickedWhateverWasSearchedSince() {
+    QFETCH(QString, search);
+    open(1);
+    pick(QStringLiteral("00600/14"));
+    test::typeText(child<QLineEdit>("txtprocura"), search);
+    QTest::mouseClick(child<QPushButton>("Command3"), Qt::LeftButton);
+    QTest::mouseClick(child<QPushButton>("Command1"), Qt::LeftButton);
+    QCOMPARE(received_.size(), 1);
+    QCOMPARE(received_.first().second.empenho, QStringLiteral("00600/14"));
+    QCOMPARE(received_.first().second.subitens,
+             QStringList({"", "José Ávila", "Viagem", "1.234,56", "03/10/2014", "08/10/2014",
+                          "02/10/2014", "Fiscal", "0002/14"}));
+  }
+
+  void enterHandsOverItsOwnRow() {
+    open(1);
+    pick(QStringLiteral("00600/14"));
+    test::typeText(child<QLineEdit>("txtprocura"), QStringLiteral("resp"));
+    QTest::mouseClick(child<QPushButton>("Command3"), Qt::LeftButton);
+    QCOMPARE(shown(), QStringList{"00500/14"});
+    QTest::keyClick(list(), Qt::Key_Return);
+    QCOMPARE(received_.size(), 1);
+    QCOMPARE(received_.first().second.empenho, QStringLiteral("00500/14"));
+    QCOMPARE(received_.first().second.subitens.at(1), QStringLiteral("Responsável"));
+  }
+
+  void thePickedRowIsCurrentAgainWhenItIsFound() {
+    open(1);
+    pick(QStringLiteral("00600/14"));
+    for (const char* search : {"resp", ""}) {
+      child<QLineEdit>("txtprocura")->selectAll();
+      QTest::keyClick(child<QLineEdit>("txtprocura"), Qt::Key_Delete);
+      test::typeText(child<QLineEdit>("txtprocura"), QString::fromUtf8(search));
+      QTest::mouseClick(child<QPushButton>("Command3"), Qt::LeftButton);
+    }
+    QCOMPARE(list()->count(), 2);
+    QVERIFY(list()->hasSelection());
+    QCOMPARE(list()->text(list()->selectedRow()), QStringLiteral("00600/14"));
+  }
+
+  void anotherWindowThatAsksSeesItsOwnRows() {
+    received_.clear();
+    ask(1);
+    auto* const first = UmaJanela<frmProcura>::aberta();
+    rowsOf(first, {"00500/14", "00600/14"});
+    QTest::keyClick(first->findChild<ListView*>("ListView1"), Qt::Key_Home);
+    ask(2);
+    QCOMPARE(UmaJanela<frmProcura>::aberta(), first);
+    rowsOf(first, {"00700/14"});
+    // What was picked for the first window is nothing to the second.
+    QTest::mouseClick(first->findChild<QPushButton*>("Command1"), Qt::LeftButton);
+    QVERIFY(first->isVisible());
+    QTest::keyClick(first->findChild<ListView*>("ListView1"), Qt::Key_Home);
+    QTest::keyClick(first->findChild<ListView*>("ListView1"), Qt::Key_Return);
+    QCOMPARE(received_.size(), 1);
+    QCOMPARE(received_.first().first, 2);
+    QCOMPARE(received_.first().second.empenho, QStringLiteral("00700/14"));
+  }
+
+  void theSameWindowThatAsksAgainFindsItsSearch() {
+    ask(1);
+    auto* const window = UmaJanela<frmProcura>::aberta();
+    test::typeText(window->findChild<QLineEdit*>("txtprocura"), QStringLiteral("ávila"));
+    QTest::mouseClick(window->findChild<QPushButton*>("Command3"), Qt::LeftButton);
+    ask(1);
+    rowsOf(window, {"00600/14"});
+    window->close();
+  }
+
+  void everyColumnIsInViewAndTheSearchBearsItsPicture() {
+    constexpr int kMoreThanFit = 60;
+    for (int n = 0; n < kMoreThanFit; ++n) {
+      office_->run(
+          qPrintable(QStringLiteral("INSERT INTO Adiantamento(EMPENHO, PROCESSO, RETIRADA) VALUES "
+                                    "(%1, 214, '2014-10-03 00:00:00')")
+                         .arg(100 * (n + 1000) + 14)));
+    }
+    open(1);
+    QVERIFY(!child<QPushButton>("Command3")->icon().pixmap(16).isNull());
+    list()->flush();
+    QTRY_VERIFY(list()->verticalScrollBar()->isVisible());
+    QCOMPARE(list()->horizontalScrollBar()->maximum(), 0);
   }
 
   void cancelHandsNothingOver() {
@@ -138,6 +231,22 @@ class frmProcuraTest : public QObject {
   }
 
  private:
+  // As another window asks.
+  void ask(int mode) {
+    mostra_frmProcura(static_cast<std::int16_t>(mode),
+                      [this, mode](const EmpenhoEscolhido& chosen) {
+                        received_.append({mode, chosen});
+                      });
+  }
+  static void rowsOf(const frmProcura* window, const QStringList& rows) {
+    const auto* const list = window->findChild<ListView*>("ListView1");
+    QStringList shown;
+    for (int row = 0; row < list->count(); ++row) {
+      shown << list->text(row);
+    }
+    shown.sort();
+    QCOMPARE(shown, rows);
+  }
   void open(int mode) {
     ModoProcura = static_cast<std::int16_t>(mode);
     for (std::int16_t each = 1; each <= 4; ++each) {
