@@ -160,18 +160,33 @@ class Display:
     def no_window(self, title):
         self.wait(lambda: not self.windows(title), f"the end of the window {title!r}")
 
+    def active(self):
+        """The window that the manager has made the active one; none while it has not."""
+        return str((numbers(self.name, "_NET_ACTIVE_WINDOW") or [0])[0])
+
+    def stacking(self):
+        """The managed windows, the lowest first."""
+        return [str(window) for window in numbers(self.name, "_NET_CLIENT_LIST_STACKING")]
+
     def focus(self, title):
-        """Waits for the window and until it has the keyboard."""
-        window = self.window(title)
-        self.xdotool("windowactivate", "--sync", window)
-        self.wait(lambda: self.xdotool("getwindowfocus") == window, f"the keyboard for {title!r}")
-        return window
+        """Waits until the manager has put the window in front of all others and given it the keyboard: that is
+        its own choice, as an operator finds it."""
+        def in_front():
+            return [window for window in self.windows(title)
+                    if window == self.active() == self.xdotool("getwindowfocus")
+                    and self.stacking()[-1:] == [window]]
+        return self.wait(in_front, f"the window {title!r} in front with the keyboard")[-1]
 
     def key(self, *keys):
         self.xdotool("key", "--delay", 60, *keys)
 
     def type(self, text):
         self.xdotool("type", "--delay", 40, text)
+
+    def place(self, window):
+        """Left, top, width and height of the window without its frame, on the screen."""
+        said = dict(line.split("=") for line in self.xdotool("getwindowgeometry", "--shell", window).split())
+        return [int(said[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")]
 
     def click(self, window, x, y):
         self.xdotool("mousemove", "--window", window, x, y)

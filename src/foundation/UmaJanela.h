@@ -32,15 +32,7 @@ class UmaJanela {
     return janela_ && OpenForms::all().contains(janela_.data()) ? janela_.data() : nullptr;
   }
 
-  static void mostra() {
-    Janela& janela = instancia();
-    if (janela.isHidden()) {
-      OpenForms::centreOnParent(janela);
-    }
-    janela.show();
-    janela.raise();
-    janela.activateWindow();
-  }
+  static void mostra() { OpenForms::showInFront(instancia()); }
 
  private:
   static inline QPointer<Janela> janela_;

@@ -70,7 +70,6 @@ TelaCadastro::TelaCadastro(QWidget& janela, QWidget& campos, QLineEdit& ordem,
       ordem_(ordem),
       passos_(std::move(passos)),
       obrigatorios_(aparencia.obrigatorios) {
-  janela.setWindowFlag(Qt::WindowStaysOnTopHint);
   abas_ = new TwoPageTab(&janela);
   abas_->setObjectName(QStringLiteral("SSTab1"));
   // The other tab is always disabled: there is nothing to do on the tabs themselves.

@@ -30,7 +30,6 @@ const QString kAviso = QStringLiteral("Aviso");
 frmLei::frmLei(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmLei>()) {
   ui_->setupUi(this);
   Estilo::destaca(*ui_->Command3);
-  setWindowFlag(Qt::WindowStaysOnTopHint);
   // A term such as 3 must not become the 30 of the list by itself.
   ui_->Combo4->setCompleter(nullptr);
   for (ComboBox* lista : {ui_->Combo1, ui_->Combo4}) {

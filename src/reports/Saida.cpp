@@ -58,8 +58,7 @@ void Exibe(std::shared_ptr<Report> relatorio) {
   auto janela = std::make_unique<ReportPreview>(std::move(relatorio), comandos());
   janela->setAttribute(Qt::WA_DeleteOnClose);
   OpenForms::add(janela.get());
-  OpenForms::centreOnParent(*janela);
-  janela.release()->show();
+  OpenForms::showInFront(*janela.release());
 }
 
 void Imprime_relatorio(Report& relatorio, bool pergunta) {

@@ -62,10 +62,8 @@ void negrita(QWidget& campo) {
 
 }  // namespace
 
-// As a child of the main window it stays above it.
 frmCadastro::frmCadastro()
-    : QWidget(OpenForms::find(QStringLiteral("frmOficce")), Qt::Window),
-      ui_(std::make_unique<Ui::frmCadastro>()),
+    : ui_(std::make_unique<Ui::frmCadastro>()),
       fechamento_(*this, [this] { return tem_digitacao(); }) {
   ui_->setupUi(this);
   Tamanho::rola(*ui_->SSTab1);

@@ -109,9 +109,7 @@ void frmCadastro::mostra_empenho(bool altera) {
     janela->setAttribute(Qt::WA_DeleteOnClose);
     OpenForms::add(janela);
   }
-  janela->show();
-  janela->raise();
-  janela->activateWindow();
+  OpenForms::showInFront(*janela);
 }
 
 void frmCadastro::cmdexcluir_Click() {

@@ -37,7 +37,6 @@ class frmLeiTest : public QObject {
 
   void opensOnTheFullList() {
     QCOMPARE(window_->windowTitle(), QStringLiteral("Inciso"));
-    QVERIFY(window_->windowFlags() & Qt::WindowStaysOnTopHint);
     QCOMPARE(tela_->row(0),
              QStringList({"0001", "001 - Miúdas", "Pronto pagamento", "Consumo", "5"}));
     QVERIFY(tela_->list().isChecked(0));

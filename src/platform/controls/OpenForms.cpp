@@ -51,27 +51,18 @@ QPointer<QWidget>& mainWindow() {
   return window;
 }
 
-}  // namespace
-
-void setMainWindow(QWidget* window) {
-  mainWindow() = window;
+// Window managers keep a dialog above the window that it belongs to, and any other window where the
+// operator's clicks put it.
+Qt::WindowFlags asDialog(const QWidget& form) {
+  if (form.windowType() != Qt::Window) {
+    return form.windowFlags();
+  }
+  const Qt::WindowFlags others = form.windowFlags() & ~Qt::WindowFlags(Qt::WindowType_Mask);
+  return others | Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+         Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
 }
 
-void add(QWidget* form) {
-  if (all().contains(form)) {
-    return;
-  }
-  if (mainWindow() != nullptr && mainWindow() != form && form->parentWidget() == nullptr) {
-    form->setParent(mainWindow(), form->windowFlags());
-  }
-  for (const QPointer<CloseWatch>& watch : watches()) {
-    if (watch->form() == form) {
-      delete watch.data();
-    }
-  }
-  watches().append(new CloseWatch(form));
-}
-
+// As far as the screen allows; a window without a parent stays where the window system puts it.
 void centreOnParent(QWidget& form) {
   const QWidget* const parent = form.parentWidget();
   if (parent == nullptr) {
@@ -85,6 +76,37 @@ void centreOnParent(QWidget& form) {
   place.moveTop(std::clamp(place.top(), screen.top(),
                            std::max(screen.top(), screen.bottom() - place.height())));
   form.move(place.topLeft());
+}
+
+}  // namespace
+
+void setMainWindow(QWidget* window) {
+  mainWindow() = window;
+}
+
+void add(QWidget* form) {
+  if (all().contains(form)) {
+    return;
+  }
+  if (mainWindow() != nullptr && mainWindow() != form && form->parentWidget() == nullptr) {
+    form->setParent(mainWindow(), asDialog(*form));
+  }
+  for (const QPointer<CloseWatch>& watch : watches()) {
+    if (watch->form() == form) {
+      delete watch.data();
+    }
+  }
+  watches().append(new CloseWatch(form));
+}
+
+void showInFront(QWidget& form) {
+  if (form.isHidden()) {
+    centreOnParent(form);
+  }
+  form.setWindowState(form.windowState() & ~Qt::WindowMinimized);
+  form.show();
+  form.raise();
+  form.activateWindow();
 }
 
 QList<QWidget*> all() {

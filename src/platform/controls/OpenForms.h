@@ -13,13 +13,14 @@ namespace quartela::OpenForms {
 // entered.
 void setMainWindow(QWidget* window);
 
-// Enters a window, and puts one without a parent above the main window. It leaves by itself when it
-// is closed or destroyed. Not owned; entering it twice changes nothing.
+// Enters a window, and puts one without a parent above the main window: whatever is clicked there,
+// it stays in front of it, but not in front of other programs. It leaves by itself when it is
+// closed or destroyed. Not owned; entering it twice changes nothing.
 void add(QWidget* form);
 
-// Puts a window in the middle of the one that it stays above, as far as the screen allows; one
-// without a parent stays where the window system puts it.
-void centreOnParent(QWidget& form);
+// Shows a window in front of the others and with the keyboard. One that was hidden opens in the
+// middle of the window that it stays above; one that was minimised comes back.
+void showInFront(QWidget& form);
 
 // From the first opened to the last.
 QList<QWidget*> all();
