@@ -15,6 +15,7 @@
 #include <QStringList>
 
 #include "foundation/Estilo.h"
+#include "foundation/Lugar.h"
 #include "foundation/Tamanho.h"
 #include "platform/dialogs/Dialogs.h"
 
@@ -53,13 +54,26 @@ QAbstractButton* botao_da_tecla(QObject* objeto, const QEvent& evento) {
   return tecla ? botao : nullptr;
 }
 
-// Not one that hangs on another, such as a list or a tip.
-bool abre_janela(const QObject* objeto, const QEvent& evento) {
-  if (evento.type() != QEvent::Show || !objeto->isWidgetType()) {
-    return false;
+// A window that opens finds its place again and fits its screen; one that closes leaves its place.
+// Not one that hangs on another, such as a list or a tip, and not when the window system minimises.
+void cuida_da_janela(QObject* objeto, const QEvent& evento) {
+  const bool abre = evento.type() == QEvent::Show;
+  if (!objeto->isWidgetType() || evento.spontaneous() || (!abre && evento.type() != QEvent::Hide)) {
+    return;
   }
-  const Qt::WindowType especie = static_cast<const QWidget*>(objeto)->windowType();
-  return especie == Qt::Window || especie == Qt::Dialog;
+  QWidget& janela = *static_cast<QWidget*>(objeto);
+  if (janela.windowType() != Qt::Window && janela.windowType() != Qt::Dialog) {
+    return;
+  }
+  const bool guardavel = Lugar::guardavel(janela);
+  if (!abre && guardavel) {
+    Lugar::guarda(janela);
+  } else if (abre && guardavel) {
+    Lugar::devolve(janela);
+  }
+  if (abre) {
+    Tamanho::cabe_na_tela(janela);
+  }
 }
 
 }  // namespace
@@ -91,9 +105,7 @@ bool Aplicacao::notify(QObject* receiver, QEvent* event) {
 }
 
 bool Aplicacao::eventFilter(QObject* objeto, QEvent* evento) {
-  if (abre_janela(objeto, *evento)) {
-    Tamanho::cabe_na_tela(*static_cast<QWidget*>(objeto));
-  }
+  cuida_da_janela(objeto, *evento);
   if (gira_sem_foco(objeto, *evento) || tecla_sem_comando(objeto, *evento)) {
     evento->ignore();
     return true;
