@@ -31,6 +31,7 @@ class IniTest : public QObject {
 
   void readsAndWrites();
   void absentReadsAsEmpty();
+  void unreadableIsAnError();
   void matchesWithoutRegardToCase();
   void cutsAt255Characters();
   void takesPathsAsKeyFilesGiveThem();
@@ -69,7 +70,17 @@ void IniTest::absentReadsAsEmpty() {
   QCOMPARE(Le_ini(kSecao, kChave, config()), QString());
   QCOMPARE(Le_ini(QStringLiteral("Outra"), kChave, config()), QString());
   QCOMPARE(Le_ini(kSecao, kChave, QString()), QString());
-  QCOMPARE(Le_ini(kSecao, kChave, pasta_->path()), QString());
+}
+
+// What is there and cannot be read is not empty.
+void IniTest::unreadableIsAnError() {
+  int numero = 0;
+  try {
+    Le_ini(kSecao, kChave, pasta_->path());
+  } catch (const RuntimeError& erro) {
+    numero = erro.number();
+  }
+  QCOMPARE(numero, 75);
 }
 
 void IniTest::matchesWithoutRegardToCase() {

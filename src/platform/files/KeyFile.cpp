@@ -1,8 +1,5 @@
 #include "platform/files/KeyFile.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 #include "platform/files/AtomicFile.h"
 
 namespace quartela {
@@ -212,56 +209,22 @@ void KeyFile::becomeUtf8() {
   encoding_ = TextEncoding::Utf8;
 }
 
-namespace {
-
-bool isKeyFile(const QFileInfo& file) {
-  return file.isFile() && file.size() <= KeyFile::kLargestFile;
-}
-
-// Nothing when it cannot be read to its end.
-std::optional<QByteArray> contentOf(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    return std::nullopt;
-  }
-  QByteArray bytes = file.readAll();
-  if (file.error() != QFileDevice::NoError) {
-    return std::nullopt;
-  }
-  return bytes;
-}
-
-QByteArray contentToChange(const QString& path) {
-  const QFileInfo file(path);
-  if (!file.exists()) {
-    return {};
-  }
-  if (!isKeyFile(file)) {
-    throw RuntimeError(ErrorNumber::PathFileAccess, path);
-  }
-  const auto bytes = contentOf(path);
-  if (!bytes) {
-    throw RuntimeError(
-        file.isReadable() ? ErrorNumber::PathFileAccess : ErrorNumber::PermissionDenied, path);
-  }
-  return *bytes;
-}
-
-}  // namespace
-
 QString readKey(const QString& path, const QString& section, const QString& key) {
-  if (!isKeyFile(QFileInfo(path))) {
-    return {};
-  }
-  const auto bytes = contentOf(path);
+  const auto bytes = readWhole(path, KeyFile::kLargestFile);
   return bytes ? KeyFile(*bytes).value(section, key) : QString();
+}
+
+void writeKeys(const QString& path, const QString& section, const std::vector<KeyValue>& keys) {
+  KeyFile file(readWhole(path, KeyFile::kLargestFile).value_or(QByteArray()));
+  for (const KeyValue& key : keys) {
+    file.setValue(section, key.key, key.value);
+  }
+  replaceFile(path, file.bytes(), NewFile::Office);
 }
 
 void writeKey(const QString& path, const QString& section, const QString& key,
               const QString& value) {
-  KeyFile file(contentToChange(path));
-  file.setValue(section, key, value);
-  replaceFile(path, file.bytes());
+  writeKeys(path, section, {{key, value}});
 }
 
 }  // namespace quartela

@@ -70,13 +70,20 @@ class KeyFile {
   std::vector<Line> lines_;
 };
 
-// The value of one key of the file at `path`. The empty text also when the file is missing, cannot
-// be read, is no ordinary file or is larger than kLargestFile.
+// The value of one key of the file at `path`; the empty text when there is no such file. Error 75
+// or 70 for one that is there and cannot be read, is no ordinary file or is larger than
+// kLargestFile: what cannot be read is not empty.
 QString readKey(const QString& path, const QString& section, const QString& key);
 
-// Sets one key of the file at `path`, making the file where there is none; written whole or not at
-// all. Errors as of replaceFile and KeyFile::setValue; a file that is there but cannot be read, or
-// is too large, is left alone with error 75 or 70.
+struct KeyValue {
+  QString key;
+  QString value;
+};
+
+// Sets keys of one section of the file at `path`, making the file where there is none (for its
+// owner and group alone); all of them or none. Errors as of replaceFile, KeyFile::setValue and
+// readKey; the file is then as it was.
+void writeKeys(const QString& path, const QString& section, const std::vector<KeyValue>& keys);
 void writeKey(const QString& path, const QString& section, const QString& key,
               const QString& value);
 

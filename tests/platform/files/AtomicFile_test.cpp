@@ -2,6 +2,8 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
@@ -70,6 +72,9 @@ class AtomicFileTest : public QObject {
   void respectsAReadOnlyFile();
   void respectsAReadOnlyFolder();
   void numbersErrors();
+  void keepsTheGroup();
+  void clearsWhatAKilledProgramLeft();
+  void readsWhole();
 
  private:
   QString path(const QString& name) const { return folder_->filePath(name); }
@@ -181,6 +186,62 @@ void AtomicFileTest::numbersErrors() {
   QCOMPARE(writeErrorNumber(QFileDevice::ResourceError), ErrorNumber::DiskFull);
   QCOMPARE(writeErrorNumber(QFileDevice::WriteError), ErrorNumber::PathFileAccess);
   QCOMPARE(writeErrorNumber(QFileDevice::RenameError), ErrorNumber::PathFileAccess);
+}
+
+// Who could use the file through its group still can.
+void AtomicFileTest::keepsTheGroup() {
+  if (::geteuid() != 0) {
+    QSKIP("Only root can give a file to another group.");
+  }
+  const QString file = path(QStringLiteral("Config.ini"));
+  QCOMPARE(write(file, "one"), 0);
+  const QByteArray name = QFile::encodeName(file);
+  QCOMPARE(::chown(name.constData(), 0, 4242), 0);
+  QCOMPARE(::chmod(name.constData(), 0660), 0);
+  QCOMPARE(write(file, "two"), 0);
+  struct stat status {};
+  QCOMPARE(::stat(name.constData(), &status), 0);
+  QCOMPARE(status.st_gid, 4242U);
+  QCOMPARE(static_cast<unsigned>(status.st_mode & 07777), 0660U);
+}
+
+void AtomicFileTest::clearsWhatAKilledProgramLeft() {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    AtomicFile unfinished(path(QStringLiteral("Number.Ini")));
+    unfinished.write("half");
+    ::kill(::getpid(), SIGKILL);
+  }
+  int status = 0;
+  QCOMPARE(::waitpid(child, &status, 0), child);
+  QVERIFY(WIFSIGNALED(status));
+  QCOMPARE(names().size(), 1);
+  // One that is being written stays.
+  AtomicFile current(path(QStringLiteral("Config.ini")));
+  QCOMPARE(write(path(QStringLiteral("other")), "x"), 0);
+  QCOMPARE(names().size(), 3);
+  clearLeftovers(folder_->path());
+  QCOMPARE(names().size(), 2);
+  current.commit();
+  QCOMPARE(names(), (QStringList{QStringLiteral("Config.ini"), QStringLiteral("other")}));
+}
+
+void AtomicFileTest::readsWhole() {
+  const QString file = path(QStringLiteral("Config.ini"));
+  QVERIFY(!readWhole(file, 10));
+  QCOMPARE(write(file, "ten bytes."), 0);
+  QCOMPARE(readWhole(file, 10), QByteArray("ten bytes."));
+  const auto errorOf = [](const QString& name, qint64 most) {
+    try {
+      readWhole(name, most);
+    } catch (const RuntimeError& error) {
+      return error.number();
+    }
+    return 0;
+  };
+  QCOMPARE(errorOf(file, 9), 75);
+  QCOMPARE(errorOf(folder_->path(), 10), 75);
+  QCOMPARE(errorOf(file + QStringLiteral("/below"), 10), 76);
 }
 
 QUARTELA_TEST_MAIN(AtomicFileTest)

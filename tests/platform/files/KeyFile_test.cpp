@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "platform/values/RuntimeError.h"
+#include "tests/platform/files/NoMoreFiles.h"
 #include "tests/platform/files/OrdinaryUser.h"
 #include "tests/support/TestMain.h"
 
@@ -53,6 +54,9 @@ class KeyFileTest : public QObject {
   void keepsAnyBytes();
   void readsFilesThatAreThere();
   void readsNothingWhereNoKeyFileIs();
+  void tellsWhenNoFileCanBeOpened();
+  void setsSeveralKeysAtOnce();
+  void isForOwnerAndGroupAlone();
   void readsNoFileThatIsTooLarge();
   void waitsForNoPipe();
   void makesAFile();
@@ -308,15 +312,62 @@ void KeyFileTest::readsFilesThatAreThere() {
            QStringLiteral("Banco.mdb"));
 }
 
+// Only a file that is known not to exist has no keys.
 void KeyFileTest::readsNothingWhereNoKeyFileIs() {
   const QString section = QStringLiteral("s");
   const QString key = QStringLiteral("k");
   const QString file = fileWith("[s]\nk=1\n");
   QCOMPARE(readKey(path("none.ini"), section, key), QString());
   QCOMPARE(readKey(path("none/none.ini"), section, key), QString());
-  QCOMPARE(readKey(file + QStringLiteral("/below.ini"), section, key), QString());
-  QCOMPARE(readKey(folder_->path(), section, key), QString());
   QCOMPARE(readKey(QString(), section, key), QString());
+  QCOMPARE(errorOf([&] { readKey(file + QStringLiteral("/below.ini"), section, key); }), 76);
+  QCOMPARE(errorOf([&] { readKey(folder_->path(), section, key); }), 75);
+}
+
+// No more files can be opened; the file is there all the same.
+void KeyFileTest::tellsWhenNoFileCanBeOpened() {
+  const QString s = QStringLiteral("s");
+  const QString file = fileWith("[s]\nk=1\n");
+  const QByteArray before = content(file);
+  int reading = 0;
+  int writing = 0;
+  {
+    const test::NoMoreFiles none;
+    reading = errorOf([&] { readKey(file, s, s); });
+    writing = errorOf([&] { writeKey(file, s, s, s); });
+  }
+  QCOMPARE(reading, 75);
+  QCOMPARE(writing, 75);
+  QCOMPARE(content(file), before);
+}
+
+void KeyFileTest::setsSeveralKeysAtOnce() {
+  const QString file = fileWith("[Contador]\nano=2013\nnumber=327\n");
+  const QString s = QStringLiteral("contador");
+  writeKeys(file, s,
+            {{QStringLiteral("ano"), QStringLiteral("2014")},
+             {QStringLiteral("number"), QStringLiteral("1")}});
+  QCOMPARE(content(file), QByteArray("[Contador]\nano=2014\nnumber=1\n"));
+  QCOMPARE(errorOf([&] {
+             writeKeys(file, s,
+                       {{QStringLiteral("ano"), QStringLiteral("2015")}, {QString(), QString()}});
+           }),
+           5);
+  QCOMPARE(content(file), QByteArray("[Contador]\nano=2014\nnumber=1\n"));
+}
+
+void KeyFileTest::isForOwnerAndGroupAlone() {
+  const QString file = path("new.ini");
+  const QString s = QStringLiteral("s");
+  const auto rights = [&] {
+    struct stat status {};
+    return ::stat(QFile::encodeName(file).constData(), &status) == 0 ? status.st_mode & 0777 : 0;
+  };
+  writeKey(file, s, s, s);
+  QCOMPARE(rights(), 0660U);
+  QCOMPARE(::chmod(QFile::encodeName(file).constData(), 0640), 0);
+  writeKey(file, s, s, QStringLiteral("2"));
+  QCOMPARE(rights(), 0640U);
 }
 
 void KeyFileTest::readsNoFileThatIsTooLarge() {
@@ -324,13 +375,14 @@ void KeyFileTest::readsNoFileThatIsTooLarge() {
   bytes.resize(KeyFile::kLargestFile, '\n');
   QCOMPARE(readKey(fileWith(bytes), QStringLiteral("s"), QStringLiteral("k")), QStringLiteral("1"));
   bytes += '\n';
-  QCOMPARE(readKey(fileWith(bytes), QStringLiteral("s"), QStringLiteral("k")), QString());
+  const QString large = fileWith(bytes);
+  QCOMPARE(errorOf([&] { readKey(large, QStringLiteral("s"), QStringLiteral("k")); }), 75);
 }
 
 void KeyFileTest::waitsForNoPipe() {
   const QString pipe = path("pipe.ini");
   QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-  QCOMPARE(readKey(pipe, QStringLiteral("s"), QStringLiteral("k")), QString());
+  QCOMPARE(errorOf([&] { readKey(pipe, QStringLiteral("s"), QStringLiteral("k")); }), 75);
   QCOMPARE(errorOf([&] { writeKey(pipe, QStringLiteral("s"), QStringLiteral("k"), QString()); }),
            75);
 }
@@ -372,7 +424,7 @@ void KeyFileTest::leavesAFileThatItMayNotRead() {
   const QString s = QStringLiteral("s");
   const QString file = fileWith("[s]\ns=1\n");
   QVERIFY(QFile::setPermissions(file, QFile::WriteOwner));
-  QCOMPARE(readKey(file, s, s), QString());
+  QCOMPARE(errorOf([&] { readKey(file, s, s); }), 70);
   QCOMPARE(errorOf([&] { writeKey(file, s, s, QStringLiteral("2")); }), 70);
   QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
   QCOMPARE(content(file), QByteArray("[s]\ns=1\n"));
