@@ -22,10 +22,11 @@ class Aplicacao : public QApplication {
   bool notify(QObject* receiver, QEvent* event) override;
 
  protected:
-  // Windows come back where they were left, and none opens larger than its screen. The wheel scrolls the page over a field that does not have the focus; it does not change it. A
-  // button's key presses it at once, where the toolkit waits a tenth of a second in which what is
-  // typed on would be lost, and takes the focus as the mouse does, so that the field that is being
-  // typed into is finished first; the key of a button that is not enabled types no letter.
+  // Windows come back where they were left, and none opens larger than its screen. The wheel
+  // scrolls the page over a field that does not have the focus; it does not change it. A button's
+  // key presses it at once, where the toolkit waits a tenth of a second in which what is typed on
+  // would be lost, and takes the focus as the mouse does, so that the field that is being typed
+  // into is finished first; the key of a button that is not enabled types no letter.
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:

@@ -40,14 +40,30 @@ void pede_caminho(const RuntimeError& erro) {
   mostra_frmParametros();
 }
 
+QString texto_de_conexao() {
+  return QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + caminhos.geral + ';';
+}
+
+void fecha_tabela() {
+  if (Tabela.state() == Recordset::Open) {
+    Tabela.close();
+  }
+}
+
+void reabre() {
+  auto nova = std::make_unique<Connection>();
+  nova->open(texto_de_conexao(), passos_do_banco());
+  nova->setCursorLocation(Connection::Client);
+  fecha_tabela();
+  Conexao = std::move(nova);
+}
+
 }  // namespace
 
 void Abre_conexao() {
-  const QString texto =
-      QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + caminhos.geral + ';';
   Conexao = std::make_unique<Connection>();
   if (Conexao->state() == Connection::Closed) {
-    Conexao->open(texto, passos_do_banco());
+    Conexao->open(texto_de_conexao(), passos_do_banco());
   }
   Conexao->setCursorLocation(Connection::Client);
 }
@@ -56,6 +72,9 @@ void Abre_banco() {
   le_caminhos();
   try {
     Abre_conexao();
+    for (const QString& aviso : Conexao->notices()) {
+      Dialogs::exclamation(aviso);
+    }
     mostra_Splash();
   } catch (const RuntimeError& erro) {
     if (erro.code() == ErrorNumber::InvalidPath || erro.code() == ErrorNumber::DatabaseNotFound) {
@@ -64,10 +83,24 @@ void Abre_banco() {
   }
 }
 
-void Fecha_banco() {
-  if (Tabela.state() == Recordset::Open) {
-    Tabela.close();
+void Oferece_reabrir() {
+  const QString pergunta =
+      QStringLiteral(
+          "Deseja abrir o arquivo que está agora em \"%1\"?\n\nO que foi digitado continua na "
+          "tela; grave outra vez depois.")
+          .arg(nativePath(caminhos.geral));
+  if (!Dialogs::confirm(pergunta, QStringLiteral("Aviso"))) {
+    return;
   }
+  try {
+    reabre();
+  } catch (const RuntimeError& erro) {
+    Erro_gravacao(erro);
+  }
+}
+
+void Fecha_banco() {
+  fecha_tabela();
   if (Conexao->state() != Connection::Closed) {
     Conexao->close();
   }

@@ -34,6 +34,10 @@ void Abre_banco();
 // does.
 void Abre_conexao();
 
+// For a file that was moved, replaced or deleted under the program: asks the operator whether to
+// open the one at the path anew, and does so. Where that fails it is told and all stays as it was.
+void Oferece_reabrir();
+
 // Closes Tabela and Conexao and gives them up.
 void Fecha_banco();
 

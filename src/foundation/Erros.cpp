@@ -2,9 +2,20 @@
 
 #include <QStringList>
 
+#include "foundation/Banco.h"
 #include "platform/dialogs/Dialogs.h"
 
 namespace quartela {
+namespace {
+
+// What the error box has told is followed by the way on, where there is one.
+void oferece_saida(const RuntimeError& erro) {
+  if (erro.code() == ErrorNumber::DatabaseMoved) {
+    Oferece_reabrir();
+  }
+}
+
+}  // namespace
 
 void Erro_interno(const RuntimeError& erro, const QString& rotulo) {
   const QStringList linhas{QStringLiteral("Houve um erro interno:"),
@@ -16,10 +27,12 @@ void Erro_interno(const RuntimeError& erro, const QString& rotulo) {
                            QStringLiteral("Origem :"),
                            erro.source() + QStringLiteral(" / ") + rotulo};
   Dialogs::exclamation(linhas.join(QLatin1Char('\n')));
+  oferece_saida(erro);
 }
 
 void Erro_gravacao(const RuntimeError& erro) {
   Dialogs::stop(QStringLiteral("Erro n°: %1 Descrição: ").arg(erro.number()) + erro.description());
+  oferece_saida(erro);
 }
 
 }  // namespace quartela

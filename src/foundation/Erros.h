@@ -1,4 +1,5 @@
-// How failures reach the operator.
+// How failures reach the operator. Where the database file has been taken away under the program,
+// the box is followed by the offer to open anew what stands at its path.
 #pragma once
 
 #include <QString>

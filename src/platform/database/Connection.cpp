@@ -85,6 +85,13 @@ const Catalogue& Connection::catalogue() const {
   return session_->catalogue();
 }
 
+const QStringList& Connection::notices() const {
+  if (!session_) {
+    throw RuntimeError(ErrorNumber::ObjectClosed);
+  }
+  return session_->notices();
+}
+
 SqliteSession& Connection::session() {
   if (!session_) {
     throw RuntimeError(ErrorNumber::ObjectClosed);

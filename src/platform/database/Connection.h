@@ -1,14 +1,16 @@
 // The connection to the one database file of a run.
 //
-// A file is opened as it stands and never changed by the opening, but for one of an older version of
-// the program, which the steps that the caller names bring forward. Errors of open(): 3024 the file
-// does not exist; 3044 the path leads to nothing that can be opened: it is empty, a folder or
+// A file is opened as it stands. The opening undoes an interrupted save, gives a file that an
+// earlier program left in another mode its rollback journal, and brings one of an older version
+// forward by the steps that the caller names; it changes nothing else. Errors of open(): 3024 the
+// file does not exist; 3044 the path leads to nothing that can be opened: it is empty, a folder or
 // malformed, the folder does not exist, the file cannot be read, is empty, or is no database of
 // this program (the description says which; an Access file is recognised by its head and named as
 // such).
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <memory>
 
 #include "platform/database/SchemaSteps.h"
@@ -53,6 +55,9 @@ class Connection {
   bool inTransaction() const;
 
   const Catalogue& catalogue() const;
+  // What the opening has to tell an operator, such as what an interrupted save had left beside the
+  // file; empty as a rule.
+  const QStringList& notices() const;
   SqliteSession& session();
 
  private:

@@ -79,6 +79,7 @@ Recordset::Data::Data(SqliteSession& from, dialect::EngineStatement translated, 
       rows(rowsFor(layout.loaded)) {}
 
 void Recordset::Data::load(SqliteSession& from) {
+  from.prepareToRead();
   if (statement.leastMatch && loadLeastMatch(from)) {
     return;
   }

@@ -28,6 +28,9 @@ constexpr std::array kEntries{
     Entry{ErrorNumber::DuplicateKey, "Já existe um registro com este número."},
     Entry{ErrorNumber::DatabaseNotFound, "O arquivo do banco de dados não foi encontrado."},
     Entry{ErrorNumber::SourceReadOnly, "Esta consulta só pode ser lida, não alterada."},
+    Entry{ErrorNumber::DatabaseMoved,
+          "Nada foi gravado: o arquivo do banco de dados foi movido, trocado ou excluído enquanto "
+          "o programa estava aberto."},
     Entry{ErrorNumber::InvalidPath, "O caminho do banco de dados não é válido."},
     Entry{ErrorNumber::UnknownTable, "A tabela ou consulta não existe no banco de dados."},
     Entry{ErrorNumber::UnknownName, "A consulta usa um nome de campo que não existe."},
@@ -40,8 +43,9 @@ constexpr std::array kEntries{
     Entry{ErrorNumber::ParentMissing,
           "O registro não pode ser gravado porque um cadastro a que ele se liga não existe."},
     Entry{ErrorNumber::DatabaseDamaged, "O arquivo do banco de dados está danificado."},
-    Entry{ErrorNumber::ReadOnlyDatabase,
-          "O banco de dados só pode ser lido: o arquivo ou a pasta está protegido contra gravação."},
+    Entry{
+        ErrorNumber::ReadOnlyDatabase,
+        "O banco de dados só pode ser lido: o arquivo ou a pasta está protegido contra gravação."},
     Entry{ErrorNumber::RowLocked,
           "O banco de dados está sendo usado por outro programa. Tente outra vez em instantes."},
     Entry{ErrorNumber::ColumnNotFound, "O campo pedido não existe no resultado."},

@@ -25,6 +25,7 @@ enum class ErrorNumber : int {
   DuplicateKey = 3022,
   DatabaseNotFound = 3024,
   SourceReadOnly = 3027,
+  DatabaseMoved = 3043,
   InvalidPath = 3044,
   UnknownTable = 3078,
   UnknownName = 3061,

@@ -138,8 +138,11 @@ void Disk::fullDisk() {
     rows.setField(u"HISTORICO", kLong);
     QVERIFY(fillDisk(folder.path()) > 0);
     if (transaction) {
-      rows.update();  // kept in memory until the commit
-      QCOMPARE(errorOf([&] { connection.commit(); }), 61);
+      QCOMPARE(errorOf([&] {
+                 rows.update();
+                 connection.commit();
+               }),
+               61);
       QVERIFY(connection.inTransaction());
       connection.rollback();
     } else {

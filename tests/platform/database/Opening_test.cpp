@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "platform/database/engines/sqlite/Session.h"
+#include "tests/platform/database/AnotherUser.h"
 #include "tests/platform/database/SmallDatabase.h"
 #include "tests/support/TestMain.h"
 
@@ -29,25 +30,6 @@ QByteArray databaseBytes(const char* sql) {
 QByteArray accessHead(const char* mark) {
   return QByteArray("\0\1\0\0", 4) + mark + QByteArray(4096, '\0');
 }
-
-constexpr uid_t kNobody = 65534;
-
-// Somebody whom file permissions bind, which they do not do with the superuser.
-class OrdinaryUser {
- public:
-  OrdinaryUser() : changed_(::geteuid() == 0 && ::seteuid(kNobody) == 0) {}
-  ~OrdinaryUser() {
-    if (changed_ && ::seteuid(0) != 0) {
-      qFatal("the user cannot be changed back");
-    }
-  }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-  static bool bound() { return ::geteuid() != 0; }
-
- private:
-  bool changed_;
-};
 
 }  // namespace
 
@@ -154,8 +136,8 @@ void Opening::unreadableFile() {
   QCOMPARE(::chmod(database.path().toUtf8().constData(), 0), 0);
   Connection connection;
   {
-    OrdinaryUser user;
-    if (!OrdinaryUser::bound()) {
+    AnotherUser user;
+    if (!AnotherUser::bound()) {
       QSKIP("this user is not bound by file permissions");
     }
     const QString said = wordsOf([&] { database.open(connection); });
@@ -255,8 +237,9 @@ void Opening::settings() {
     sqlite3_finalize(statement);
     return answer;
   };
-  QCOMPARE(setting("PRAGMA journal_mode"), QStringLiteral("wal"));
-  QCOMPARE(setting("PRAGMA synchronous"), QStringLiteral("2"));
+  QCOMPARE(setting("PRAGMA journal_mode"), QStringLiteral("delete"));
+  QCOMPARE(setting("PRAGMA synchronous"), QStringLiteral("3"));
+  QCOMPARE(setting("PRAGMA cache_spill"), QStringLiteral("0"));
   QCOMPARE(setting("PRAGMA foreign_keys"), QStringLiteral("1"));
 }
 
@@ -319,14 +302,14 @@ void Opening::protectedFileIsRead() {
   SmallDatabase database;
   {
     Connection connection;
-    database.open(connection);  // leaves the file in the form that logs beside it
+    database.open(connection);
   }
   const QByteArray before = contentOf(database.path());
   QCOMPARE(::chmod(database.folder().toUtf8().constData(), 0755), 0);
   QCOMPARE(::chmod(database.path().toUtf8().constData(), 0444), 0);
   {
-    OrdinaryUser user;
-    if (!OrdinaryUser::bound()) {
+    AnotherUser user;
+    if (!AnotherUser::bound()) {
       QSKIP("this user is not bound by file permissions");
     }
     Connection connection;

@@ -30,6 +30,7 @@ constexpr Known kKnown[] = {
     {ErrorNumber::DuplicateKey, 3022},
     {ErrorNumber::DatabaseNotFound, 3024},
     {ErrorNumber::SourceReadOnly, 3027},
+    {ErrorNumber::DatabaseMoved, 3043},
     {ErrorNumber::InvalidPath, 3044},
     {ErrorNumber::DatabaseDamaged, 3049},
     {ErrorNumber::ReadOnlyDatabase, 3051},

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <new>
 
+#include "platform/database/engines/sqlite/GuardedFiles.h"
 #include "platform/values/RuntimeError.h"
 
 namespace quartela::sqlite {
@@ -75,6 +76,18 @@ ErrorNumber numberOf(sqlite3* db, int code, Activity activity) {
 void raise(sqlite3* db, int code, Activity activity) {
   if ((code & kPrimaryCodeMask) == SQLITE_NOMEM) {
     throw std::bad_alloc();
+  }
+  if (code == SQLITE_READONLY_DBMOVED) {
+    throw RuntimeError(ErrorNumber::DatabaseMoved,
+                       QString::fromUtf8(sqlite3_db_filename(db, "main")));
+  }
+  if (code == kUnknownJournal) {
+    throw RuntimeError::withDescription(
+        fileNumber(activity, ErrorNumber::DatabaseDamaged),
+        QStringLiteral(
+            "Ao lado do banco de dados há um diário de gravação (\"-journal\") que outro "
+            "programa deixou, e não se sabe se é dele. Nada foi alterado: guarde uma "
+            "cópia dos dois arquivos e chame o suporte."));
   }
   const char* words = db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(code);
   throw RuntimeError(numberOf(db, code, activity), QString::fromUtf8(words));

@@ -1,6 +1,7 @@
 #include "platform/database/engines/sqlite/FileCheck.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -14,7 +15,6 @@
 namespace quartela::sqlite {
 namespace {
 
-constexpr int kHeadBytes = 100;
 constexpr int kApplicationIdOffset = 68;
 constexpr int kAccessMarkOffset = 4;
 
@@ -62,12 +62,10 @@ void checkKind(const QString& path) {
   }
 }
 
-QByteArray readHead(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
+void checkReadable(const QString& path) {
+  if (::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), R_OK, AT_EACCESS) != 0) {
     refuse(QStringLiteral("O arquivo \"%1\" não pode ser lido. Confira as permissões.").arg(path));
   }
-  return file.read(kHeadBytes);
 }
 
 bool isAccess(const QByteArray& head) {
@@ -77,6 +75,19 @@ bool isAccess(const QByteArray& head) {
 
 bool isSqlite(const QByteArray& head) {
   return head.size() == kHeadBytes && head.startsWith(QByteArray("SQLite format 3\0", 16));
+}
+
+// The effective user counts, as it does when the engine opens.
+bool isWritable(const QString& path) {
+  return ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), W_OK, AT_EACCESS) == 0;
+}
+
+}  // namespace
+
+void checkPlace(const QString& path) {
+  checkPath(path);
+  checkKind(path);
+  checkReadable(path);
 }
 
 void checkHead(const QString& path, const QByteArray& head) {
@@ -96,17 +107,12 @@ void checkHead(const QString& path, const QByteArray& head) {
   }
 }
 
-// The effective user counts, as it does when the engine opens.
-bool isWritable(const QString& path) {
-  return ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), W_OK, AT_EACCESS) == 0;
-}
-
-}  // namespace
-
-void checkFile(const QString& path) {
-  checkPath(path);
-  checkKind(path);
-  checkHead(path, readHead(path));
+std::optional<FileIdentity> identityOf(const char* path) {
+  struct stat status {};
+  if (::stat(path, &status) != 0) {
+    return std::nullopt;
+  }
+  return FileIdentity{status.st_dev, status.st_ino};
 }
 
 bool canBeWritten(const QString& path) {

@@ -1,10 +1,14 @@
 #include "platform/database/engines/sqlite/Session.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QUrl>
+#include <QtEndian>
 
 #include "platform/database/engines/sqlite/CatalogueReader.h"
 #include "platform/database/engines/sqlite/FileCheck.h"
+#include "platform/database/engines/sqlite/GuardedFiles.h"
+#include "platform/database/engines/sqlite/Journal.h"
 #include "platform/database/engines/sqlite/Latin.h"
 #include "platform/database/engines/sqlite/Statement.h"
 #include "platform/database/engines/sqlite/Upgrade.h"
@@ -23,9 +27,10 @@ QByteArray uriOf(const QString& path) {
   return "file:" + QUrl::toPercentEncoding(path, "/");
 }
 
-Handle openHandle(const QByteArray& uri, int flags) {
+Handle openHandle(const QString& path, int flags) {
   sqlite3* db = nullptr;
-  const int code = sqlite3_open_v2(uri.constData(), &db, flags | kCommonFlags, nullptr);
+  const int code =
+      sqlite3_open_v2(uriOf(path).constData(), &db, flags | kCommonFlags, guardedFiles());
   Handle handle(db);
   check(db, code, Activity::Opening);
   check(db, sqlite3_busy_timeout(db, kBusyMilliseconds), Activity::Opening);
@@ -33,31 +38,45 @@ Handle openHandle(const QByteArray& uri, int flags) {
   return handle;
 }
 
-// Without writing rights the engine cannot make its files beside the database. Where they are
-// there, somebody is at work with the file and the engine needs them; otherwise the file stands
-// still.
-Handle openForReading(const QString& path) {
-  const bool inUse = QFile::exists(path + QLatin1String("-wal"));
-  const QByteArray uri = inUse ? uriOf(path) : uriOf(path) + "?immutable=1";
-  return openHandle(uri, SQLITE_OPEN_READONLY);
+bool hasLog(sqlite3* db) {
+  return readHead(db).mid(kModeOffset, 1) == QByteArray(1, kLogMode);
 }
 
-// What was reported as saved survives a power cut: the log is synchronised at every commit.
+bool isForeignJournal(sqlite3* db, const QString& journal) {
+  const auto counter = qFromBigEndian<quint32>(readHead(db).constData() + kCounterOffset);
+  return judgeJournal(QFile::encodeName(journal).constData(), counter) == JournalKind::Foreign;
+}
+
+// What was reported as saved survives a power cut: the journal's removal is on the disk too. Pages
+// stay in memory until the commit, so that the journal has the first page before the file has any.
 void prepareForWriting(sqlite3* db) {
   run(db, "PRAGMA foreign_keys = ON", Activity::Opening);
-  run(db, "PRAGMA journal_mode = WAL", Activity::Opening);
-  run(db, "PRAGMA synchronous = FULL", Activity::Opening);
+  run(db, "PRAGMA synchronous = EXTRA", Activity::Opening);
+  run(db, "PRAGMA cache_spill = OFF", Activity::Opening);
+  run(db, "PRAGMA journal_mode = DELETE", Activity::Opening);
+}
+
+// Whether rows can be read as things stand.
+bool canRead(sqlite3* db) {
+  const int code = sqlite3_exec(db, "SELECT 1 FROM sqlite_schema", nullptr, nullptr, nullptr);
+  if (code != SQLITE_READONLY_ROLLBACK) {
+    check(db, code, Activity::Reading);
+  }
+  return code == SQLITE_OK;
 }
 
 [[noreturn]] void refuse(const QString& path, const RuntimeError& cause) {
-  // The engine's own words, which stand in brackets behind those of the number.
-  const QString detail = cause.description().mid(errorDescription(cause.code()).size());
+  const QString words = errorDescription(cause.code());
+  if (!cause.description().startsWith(words)) {
+    throw cause;
+  }
+  // The engine's own words stand in brackets behind those of the number.
   throw RuntimeError::withDescription(
       ErrorNumber::InvalidPath,
       QStringLiteral(
           "O arquivo \"%1\" não pode ser aberto: está danificado ou incompleto, ou falta "
           "permissão na pasta.%2")
-          .arg(path, detail));
+          .arg(path, cause.description().mid(words.size())));
 }
 
 }  // namespace
@@ -75,7 +94,11 @@ WriteScope::WriteScope(SqliteSession& session) : session_(session), nested_(sess
 }
 
 void WriteScope::commit() {
-  run(session_.handle(), nested_ ? "RELEASE linha" : "COMMIT", Activity::Writing);
+  if (nested_) {
+    run(session_.handle(), "RELEASE linha", Activity::Writing);
+  } else {
+    session_.engineCommit();
+  }
   done_ = true;
   session_.changed_ = nested_;
 }
@@ -104,23 +127,112 @@ void WriteScope::undoStatement() {
 using sqlite::Activity;
 using sqlite::run;
 
-SqliteSession::SqliteSession(const QString& path, const SchemaSteps& steps) {
-  sqlite::checkFile(path);
-  const bool writable = sqlite::canBeWritten(path);
+SqliteSession::SqliteSession(const QString& path, const SchemaSteps& steps)
+    : path_(path), pathBytes_(QFile::encodeName(path)), steps_(steps) {
+  sqlite::checkPlace(path);
+  writable_ = sqlite::canBeWritten(path);
   try {
-    db_ = writable ? sqlite::openHandle(sqlite::uriOf(path), SQLITE_OPEN_READWRITE)
-                   : sqlite::openForReading(path);
-    sqlite::bringForward(handle(), path, writable, steps);
-    catalogue_ = sqlite::readCatalogue(handle());
+    open();
   } catch (const RuntimeError& error) {
     if (error.code() != ErrorNumber::InvalidPath || error.description().contains(path)) {
       throw;
     }
     sqlite::refuse(path, error);
   }
-  if (writable) {
-    sqlite::prepareForWriting(handle());
+}
+
+void SqliteSession::open() {
+  if (!writable_) {
+    openForReading();
+    return;
   }
+  const auto before = sqlite::identityOf(pathBytes_.constData());
+  db_ = sqlite::openHandle(path_, SQLITE_OPEN_READWRITE);
+  sqlite::checkHead(path_, sqlite::readHead(handle()));
+  if (!before || before != sqlite::identityOf(pathBytes_.constData())) {
+    throw RuntimeError(ErrorNumber::DatabaseMoved, path_);
+  }
+  identity_ = *before;
+  // The log's index is kept in memory then, and nobody else can be at work with it.
+  const bool log = sqlite::hasLog(handle());
+  if (log) {
+    run(handle(), "PRAGMA locking_mode = EXCLUSIVE", Activity::Opening);
+  }
+  catalogue_ = sqlite::readCatalogue(handle());
+  sqlite::prepareForWriting(handle());
+  if (log) {
+    run(handle(), "PRAGMA locking_mode = NORMAL", Activity::Opening);
+    // The lock is given up at the end of the next reading.
+    sqlite::canRead(handle());
+  }
+  clearBeside();
+  if (sqlite::bringForward(handle(), path_, steps_)) {
+    catalogue_ = sqlite::readCatalogue(handle());
+  }
+}
+
+void SqliteSession::openForReading() {
+  prepared_.clear();
+  copySource_.reset();
+  db_ = sqlite::openHandle(path_, SQLITE_OPEN_READONLY);
+  sqlite::checkHead(path_, sqlite::readHead(handle()));
+  if (sqlite::hasLog(handle()) || !sqlite::canRead(handle())) {
+    db_.reset();
+    const sqlite::PrivateCopy copy(path_);
+    db_ = sqlite::openHandle(copy.path(), SQLITE_OPEN_READWRITE);
+    // Read from now on, it needs no name any more.
+    run(handle(), "PRAGMA journal_mode = DELETE", Activity::Opening);
+    sqlite::canRead(handle());
+    copySource_ = copy.source();
+  }
+  sqlite::requireVersion(handle(), path_, steps_);
+  catalogue_ = sqlite::readCatalogue(handle());
+}
+
+void SqliteSession::prepareToRead() {
+  if (writable_) {
+    return;
+  }
+  const bool outdated = copySource_
+                            ? sqlite::CopySource(path_) != *copySource_
+                            : QFile::exists(sqlite::journalOf(path_)) && !sqlite::canRead(handle());
+  if (outdated) {
+    openForReading();
+  }
+}
+
+// What the engine does not see beside the file must not come to be seen later: another tool, or a
+// later state of the file, could take it for the file's own. Where another program is saving, what
+// stands there is that program's.
+void SqliteSession::clearBeside() {
+  const QString journal = sqlite::journalOf(path_);
+  const QString log = sqlite::logOf(path_);
+  QFile::remove(journal + QLatin1String(sqlite::kEndedSuffix));
+  if (!QFile::exists(journal) && !QFile::exists(log)) {
+    return;
+  }
+  sqlite3_busy_timeout(handle(), 0);
+  if (sqlite3_exec(handle(), "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_OK) {
+    if (sqlite::isForeignJournal(handle(), journal)) {
+      keepAside(journal);
+    }
+    QFile::remove(journal);
+    if (QFileInfo(log).size() > 0) {
+      keepAside(log);
+    }
+    QFile::remove(log);
+    giveUpTransaction();
+  }
+  sqlite3_busy_timeout(handle(), sqlite::kBusyMilliseconds);
+}
+
+void SqliteSession::keepAside(const QString& name) {
+  const QString kept = sqlite::setAside(name);
+  notices_ << QStringLiteral(
+                  "O banco de dados \"%1\" foi trocado depois de uma gravação interrompida. O que "
+                  "essa gravação deixou não pertence a ele e não foi aplicado; está guardado em "
+                  "\"%2\".")
+                  .arg(path_, kept);
 }
 
 SqliteSession::~SqliteSession() {
@@ -163,7 +275,7 @@ void SqliteSession::commit() {
                        QStringLiteral("não há transação a confirmar"));
   }
   if (!yielded_) {
-    run(handle(), "COMMIT", Activity::Writing);
+    engineCommit();
   }
   transaction_ = false;
   keepLock();
@@ -199,11 +311,23 @@ void SqliteSession::takeLock() {
                        QStringLiteral("a transação foi desfeita por um erro anterior"));
   }
   // The engine itself would only refuse the first change.
-  if (sqlite3_db_readonly(handle(), "main") == 1) {
+  if (!writable_ || sqlite3_db_readonly(handle(), "main") == 1) {
     throw RuntimeError(ErrorNumber::ReadOnlyDatabase);
   }
+  requireSameFile();
   run(handle(), "BEGIN IMMEDIATE", Activity::Writing);
   yielded_ = false;
+}
+
+void SqliteSession::requireSameFile() const {
+  if (sqlite::identityOf(pathBytes_.constData()) != identity_) {
+    throw RuntimeError(ErrorNumber::DatabaseMoved, path_);
+  }
+}
+
+void SqliteSession::engineCommit() {
+  requireSameFile();
+  run(handle(), "COMMIT", Activity::Writing);
 }
 
 void SqliteSession::giveUpTransaction() {

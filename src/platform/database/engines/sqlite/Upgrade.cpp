@@ -175,23 +175,33 @@ void upgrade(sqlite3* db, const QString& path, const SchemaSteps& steps) {
 
 }  // namespace
 
-void bringForward(sqlite3* db, const QString& path, bool writable, const SchemaSteps& steps) {
+bool bringForward(sqlite3* db, const QString& path, const SchemaSteps& steps) {
+  if (steps.empty()) {
+    return false;
+  }
+  const int version = versionOf(db);
+  checkVersion(version, steps.back().version, path);
+  if (version == steps.back().version) {
+    return false;
+  }
+  upgrade(db, path, steps);
+  run(db, "PRAGMA foreign_keys = ON", Activity::Writing);
+  return true;
+}
+
+void requireVersion(sqlite3* db, const QString& path, const SchemaSteps& steps) {
   if (steps.empty()) {
     return;
   }
   const int version = versionOf(db);
   checkVersion(version, steps.back().version, path);
-  if (version == steps.back().version) {
-    return;
-  }
-  if (!writable) {
+  if (version != steps.back().version) {
     refuse(
         QStringLiteral("O arquivo \"%1\" é de uma versão anterior (%2) e precisa ser atualizado, "
                        "mas não pode ser gravado. Confira as permissões do arquivo e da pasta.")
             .arg(path)
             .arg(version));
   }
-  upgrade(db, path, steps);
 }
 
 }  // namespace quartela::sqlite
