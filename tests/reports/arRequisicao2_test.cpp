@@ -114,7 +114,7 @@ const QList<RuledLine> kLines{
     {"PageFooter", 945, 10346},      {"PageFooter", 1276, 10346}, {"PageFooter", 4016, 10346},
     {"PageFooter", 378, 3402, 567},   // to sign on: the responsible person
     {"PageFooter", 378, 3402, 6094},  // the expense orderer
-    {"PageFooter", 3166, 4252, 4063}  // the head of finance
+    {"PageFooter", 3010, 4252, 4063}  // the head of finance
 };
 
 // What is printed over the blanks of labels.

@@ -63,6 +63,7 @@ struct ElementLayout {
   bool canGrow = false;    // downward, to hold the whole text
   bool canShrink = false;  // to the lines that its text has, to nothing when it is empty
   double smallest = 0;     // points; a text that the box cuts is set smaller down to it; 0: never
+  QMargins room;           // round the box, free for a text that the box cuts
   QColor color = Qt::black;
   QColor backColor;  // invalid: none
 

@@ -174,6 +174,18 @@ ElementKind readElementKind(Node& node) {
                                    {"PageBreak", ElementKind::PageBreak}});
 }
 
+QMargins readMargins(Node& owner, QLatin1String name, const QMargins& usual) {
+  std::optional<Node> node = owner.object(name);
+  if (!node) {
+    return usual;
+  }
+  const QMargins margins(
+      node->measure(key("left"), usual.left()), node->measure(key("top"), usual.top()),
+      node->measure(key("right"), usual.right()), node->measure(key("bottom"), usual.bottom()));
+  node->finish();
+  return margins;
+}
+
 // An element may reach into the page's left margin, up to the paper's edge.
 QRect readPlace(Node& node, ElementKind kind, int margin) {
   // A page break is a height in its section and nothing else.
@@ -201,6 +213,7 @@ void readTextLook(Node& node, ElementLayout& element) {
   if (element.smallest > element.font.points) {
     fail(node.place(), QStringLiteral("\"smallest\" não pode ser maior que a letra"));
   }
+  element.room = readMargins(node, key("room"), {});
   element.color = node.color(key("color"), Qt::black);
   element.backColor = node.color(key("backColor"), {});
 }
@@ -314,14 +327,7 @@ void readPage(Node& root, ReportLayout& layout) {
   if (std::optional<Node> page = root.object(key("page"))) {
     layout.paper = QSize(page->measure(key("width"), layout.paper.width(), 1),
                          page->measure(key("height"), layout.paper.height(), 1));
-    if (std::optional<Node> margins = page->object(key("margins"))) {
-      const QMargins usual = layout.margins;
-      layout.margins = QMargins(margins->measure(key("left"), usual.left()),
-                                margins->measure(key("top"), usual.top()),
-                                margins->measure(key("right"), usual.right()),
-                                margins->measure(key("bottom"), usual.bottom()));
-      margins->finish();
-    }
+    layout.margins = readMargins(*page, key("margins"), layout.margins);
     page->finish();
   }
   layout.printWidth = root.measure(key("printWidth"), layout.printWidth, 1);

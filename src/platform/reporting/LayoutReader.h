@@ -13,8 +13,8 @@
 //                   "PageBreak",
 //           "name", "left", "top", "width", "height", "visible" (true), "text", "font": FONT,
 //           "align": "left" | "center" | "right", "verticalAlign": "top" | "middle" | "bottom",
-//           "wordWrap", "canGrow", "canShrink", "smallest" (points), "color": "#rrggbb",
-//           "backColor",
+//           "wordWrap", "canGrow", "canShrink", "smallest" (points),
+//           "room": {"left", "top", "right", "bottom"}, "color": "#rrggbb", "backColor",
 //           "column", "optional", "format", "shows": "text" | "pageNumber" | "pageTotal" | "title",
 //           "summary": "none" | "sum" | "count", "over": GROUP,
 //           "lineStyle": "solid" | "dash" | "dot", "lineWeight", "stretch", "image" } ] } ] }

@@ -9,6 +9,10 @@
 namespace quartela::reporting {
 namespace {
 
+// Boxes of two lines may overlap by the empty paper of their letters; one stands below the other
+// all the same.
+constexpr int kOverlap = 30;
+
 // An element on its way into the block: where it stood and where it comes to stand.
 struct Piece {
   const ElementState* state = nullptr;
@@ -17,7 +21,8 @@ struct Piece {
   int height = 0;
   TextLook look;
   FittedText text;
-  Block inner;  // of a sub-report
+  QMargins room;  // that the text takes round its box
+  Block inner;    // of a sub-report
 
   const ElementLayout& layout() const { return state->element.layout(); }
   int bottomBefore() const { return before.y() + before.height(); }
@@ -80,20 +85,37 @@ class Formatter {
     return piece;
   }
 
+  // The largest type in which nothing is cut, in the box itself or in the room round it; where
+  // there is none, the box grows.
   void fit(Piece& piece) {
-    const ElementLayout& layout = piece.layout();
-    const TextBox box{.width = piece.before.width(),
-                      .height = piece.height,
-                      .wrap = layout.wordWrap,
-                      .grow = layout.canGrow && section_.layout->canGrow};
-    const QString& text = piece.state->element.text();
-    piece.text = fitText(*piece.look.face, text, box);
+    tryLook(piece);
     const std::vector<TextLook>& smaller = piece.state->smaller;
     for (auto look = smaller.begin(); piece.text.cut && look != smaller.end(); ++look) {
       piece.look = *look;
-      piece.text = fitText(*look->face, text, box);
+      tryLook(piece);
     }
-    resize(piece, heightOfLines(*piece.look.face, piece.text.lines), box.grow);
+    const bool grows = piece.layout().canGrow && section_.layout->canGrow;
+    if (piece.text.cut && grows) {
+      piece.look = {piece.state->face, piece.state->style};
+      fitInto(piece, {}, true);
+    }
+    resize(piece, heightOfLines(*piece.look.face, piece.text.lines), grows && piece.room.isNull());
+  }
+
+  static void tryLook(Piece& piece) {
+    fitInto(piece, {}, false);
+    if (piece.text.cut && !piece.layout().room.isNull()) {
+      fitInto(piece, piece.layout().room, false);
+    }
+  }
+
+  static void fitInto(Piece& piece, const QMargins& room, bool grow) {
+    piece.room = room;
+    piece.text = fitText(*piece.look.face, piece.state->element.text(),
+                         {.width = piece.before.width() + room.left() + room.right(),
+                          .height = piece.height + room.top() + room.bottom(),
+                          .wrap = piece.layout().wordWrap,
+                          .grow = grow});
   }
 
   void resize(Piece& piece, int wanted, bool canGrow) {
@@ -136,9 +158,12 @@ class Formatter {
       Piece& piece = *band[at];
       piece.top = piece.before.y() + shift;
       for (const Piece* const above : band.first(at)) {
-        if (above->bottomBefore() <= piece.before.y()) {
+        const int between = piece.before.y() - above->bottomBefore();
+        if (between >= -kOverlap) {
+          // What has grown fills its box, and nothing may overlap it any more.
+          const bool grown = above->height > above->before.height();
           piece.top =
-              std::max(piece.top, above->bottom() + piece.before.y() - above->bottomBefore());
+              std::max(piece.top, above->bottom() + (grown ? std::max(between, 0) : between));
         }
       }
       bottom = std::max(bottom, piece.bottom());
@@ -183,7 +208,8 @@ class Formatter {
     item.style = piece.look.style;
     item.kind = piece.state->kind;
     item.face = piece.look.face;
-    item.place = QRect(piece.before.x(), piece.top, piece.before.width(), piece.height);
+    item.place = QRect(piece.before.x(), piece.top, piece.before.width(), piece.height)
+                     .marginsAdded(piece.room);
     item.text = std::move(piece.text);
     return item;
   }

@@ -91,6 +91,7 @@ void LayoutReaderTest::readsATextElement() {
           {"kind": "Label", "name": "a", "left": 1, "top": 2, "width": 3, "height": 4,
            "text": "Orgão", "visible": false, "align": "right", "verticalAlign": "bottom",
            "wordWrap": true, "canGrow": true, "canShrink": true, "smallest": 7.5,
+           "room": {"left": 5, "top": 6, "bottom": 7},
            "color": "#ff0000", "backColor": "#00ff00"}]})");
   const ElementLayout& element = layout.sections.at(0).elements.at(0);
   QCOMPARE(element.kind, ElementKind::Label);
@@ -101,6 +102,7 @@ void LayoutReaderTest::readsATextElement() {
   QCOMPARE(element.align, Alignment::Right);
   QCOMPARE(element.verticalAlign, VerticalAlignment::Bottom);
   QCOMPARE(element.smallest, 7.5);
+  QCOMPARE(element.room, QMargins(5, 6, 0, 7));
   QCOMPARE(element.color, QColor(Qt::red));
   QCOMPARE(element.backColor, QColor(Qt::green));
 }

@@ -77,6 +77,8 @@ class PaginationTest : public QObject {
   void textThatMayNotGrowIsCut();
   void textIsSetSmallerBeforeItIsCut_data();
   void textIsSetSmallerBeforeItIsCut();
+  void textTakesTheRoomRoundItsBox_data();
+  void textTakesTheRoomRoundItsBox();
   void sectionHigherThanAPageIsParted();
   void partedSectionMayBeginBelowOthers();
   void headersWithoutPlaceAre5();
@@ -271,6 +273,47 @@ void PaginationTest::textIsSetSmallerBeforeItIsCut_data() {
   const QString wrapped = QStringLiteral(R"(, "wordWrap": true, "smallest": 6)");
   QTest::newRow("wrapped") << 40 << wrapped << 10.0 << false;
   QTest::newRow("wrapped, smaller") << 75 << wrapped << 8.0 << false;
+}
+
+// The box is 2400 twips wide and 240 high, which is one line of ten points.
+void PaginationTest::textTakesTheRoomRoundItsBox_data() {
+  QTest::addColumn<int>("letters");
+  QTest::addColumn<QString>("more");
+  QTest::addColumn<double>("points");
+  QTest::addColumn<QRect>("place");
+  QTest::addColumn<int>("lines");
+  const QRect box(0, 0, 2400, 240);
+  const QString sideways =
+      QStringLiteral(R"(, "smallest": 8, "room": {"left": 120, "right": 240})");
+  const QRect wide(-120, 0, 2760, 240);
+  QTest::newRow("not needed") << 20 << sideways << 10.0 << box << 1;
+  QTest::newRow("sideways") << 21 << sideways << 10.0 << wide << 1;
+  QTest::newRow("all of it") << 23 << sideways << 10.0 << wide << 1;
+  QTest::newRow("and smaller") << 24 << sideways << 9.5 << wide << 1;
+  const QString upward =
+      QStringLiteral(R"(, "wordWrap": true, "smallest": 6, "room": {"top": 240, "bottom": 10})");
+  const QRect high(0, -240, 2400, 490);
+  QTest::newRow("no second line") << 20 << upward << 10.0 << box << 1;
+  QTest::newRow("a second line") << 21 << upward << 10.0 << high << 2;
+  QTest::newRow("a smaller one in the room") << 42 << upward << 9.5 << high << 2;
+  const QString growing = QStringLiteral(R"(, "wordWrap": true, "smallest": 8, "canGrow": true)");
+  QTest::newRow("smaller before it grows") << 24 << growing << 8.0 << box << 1;
+  QTest::newRow("grows in its own type") << 60 << growing << 10.0 << QRect(0, 0, 2400, 680) << 3;
+}
+
+void PaginationTest::textTakesTheRoomRoundItsBox() {
+  QFETCH(int, letters);
+  QFETCH(QString, more);
+  QFETCH(QRect, place);
+  Built built(section("Detail", 1000, field("letras", 300, 240, more.toUtf8())), 1);
+  const QString text = QString(letters, QLatin1Char('x'));
+  built.report.setText(u"letras", text);
+  const PlacedItem item = built.pages().at(0).items(u"letras").at(0);
+  QFETCH(double, points);
+  QCOMPARE(item.font.pixelSize(), static_cast<int>(points * kTwipsPerPoint));
+  QCOMPARE(item.text, text);
+  QTEST(static_cast<int>(item.lines.size()), "lines");
+  QCOMPARE(item.rect, place.translated(1000, kTop + 300));
 }
 
 void PaginationTest::textIsSetSmallerBeforeItIsCut() {
