@@ -35,7 +35,7 @@ QTimer* relogio(QObject* dono, const QString& nome, int milissegundos) {
 }  // namespace
 
 Splash::Splash()
-    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint),
+    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       ui_(std::make_unique<Ui::Splash>()),
       Timer1(relogio(this, QStringLiteral("Timer1"), 100)),
       Timer2(relogio(this, QStringLiteral("Timer2"), 4000)),

@@ -1,5 +1,5 @@
-// Stands between the login and the main window: a moving bar for four seconds, during which the
-// main window is brought up.
+// Stands between the login and the main window, on top of all windows: a moving bar for four
+// seconds, during which the main window is brought up.
 #pragma once
 
 #include <QMovie>

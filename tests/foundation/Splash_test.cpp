@@ -65,6 +65,7 @@ class Splash_test : public QObject {
     const Splash* const splash = UmaJanela<Splash>::aberta();
     QVERIFY(splash && splash->isVisible());
     QVERIFY(!splash->isModal());
+    QVERIFY(splash->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     QCOMPARE(label("Image1")->x(), pixelsOf(-10150));
     QCOMPARE(label("lblVersion")->text(), "Version 4.0.2");
     QCOMPARE(label("lblStatus")->text(), "Aguarde Carregando Controles...");

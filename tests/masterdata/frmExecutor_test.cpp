@@ -44,7 +44,7 @@ class frmExecutorTest : public QObject {
     QList<int> widths;
     for (int n = 0; n < tela_->list().columnCount(); ++n) {
       heads << tela_->list().model()->headerData(n, Qt::Horizontal).toString();
-      widths << tela_->list().columnWidth(n);
+      widths << tela_->list().leastWidth(n);
     }
     QCOMPARE(heads, QStringList({"ORDEM", "ORGÃO", "NOME", "RG", "CPF", "FUNÇÃO"}));
     QCOMPARE(widths, QList<int>({94, 212, 235, 176, 176, 235}));

@@ -45,7 +45,7 @@ class frmLeiTest : public QObject {
     QList<int> widths;
     for (int n = 0; n < tela_->list().columnCount(); ++n) {
       heads << tela_->list().model()->headerData(n, Qt::Horizontal).toString();
-      widths << tela_->list().columnWidth(n);
+      widths << tela_->list().leastWidth(n);
     }
     QCOMPARE(heads, QStringList({"SEQ", "TIPO", "DESCRIÇÃO", "CATEGORIA", "DIAS"}));
     QCOMPARE(widths, QList<int>({94, 176, 647, 169, 94}));

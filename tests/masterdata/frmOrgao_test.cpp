@@ -61,7 +61,7 @@ class frmOrgaoTest : public QObject {
     const auto* model = tela_->list().model();
     QCOMPARE(model->headerData(0, Qt::Horizontal).toString(), QStringLiteral("ORDEM"));
     QCOMPARE(model->headerData(1, Qt::Horizontal).toString(), QStringLiteral("SECRETARIA"));
-    QCOMPARE(tela_->list().columnWidth(1),
+    QCOMPARE(tela_->list().leastWidth(1),
              ColumnWidth::twips(7056).toPixels(window_->logicalDpiX()));
   }
 

@@ -36,7 +36,7 @@ class frmTipoDespesaTest : public QObject {
     QCOMPARE(tela_->row(0), QStringList({"0001", "Miúdas"}));
     const auto* model = tela_->list().model();
     QCOMPARE(model->headerData(1, Qt::Horizontal).toString(), QStringLiteral("FINALIDADE"));
-    QCOMPARE(tela_->list().columnWidth(1),
+    QCOMPARE(tela_->list().leastWidth(1),
              ColumnWidth::twips(8819).toPixels(window_->logicalDpiX()));
   }
 

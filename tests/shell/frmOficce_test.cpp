@@ -86,7 +86,7 @@ class frmOficceTest : public QObject {
       const int width =
           ColumnWidth::hundredthsOfMillimetre(widths.at(n)).toPixels(list().logicalDpiX());
       // The first column makes room for the row's icon beside its number.
-      QVERIFY(n == 0 ? list().columnWidth(n) >= width : list().columnWidth(n) == width);
+      QVERIFY(n == 0 ? list().leastWidth(n) >= width : list().leastWidth(n) == width);
     }
   }
 

@@ -3,9 +3,11 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
@@ -17,6 +19,13 @@ namespace {
 
 constexpr int kRowMargin = 3;
 
+// As it stands, whatever signs it has; the toolkit would break it into lines.
+QString inOneLine(const QString& text) {
+  return text.isEmpty()
+             ? text
+             : QStringLiteral("<p style=\"white-space:pre\">%1</p>").arg(text.toHtmlEscaped());
+}
+
 // One height for all rows, without asking any of them.
 class RowDelegate : public QStyledItemDelegate {
  public:
@@ -26,6 +35,17 @@ class RowDelegate : public QStyledItemDelegate {
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);
     const int content = std::max(option.fontMetrics.height(), option.decorationSize.height());
     return {hint.width(), content + 2 * kRowMargin};
+  }
+
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    if (event->type() != QEvent::ToolTip) {
+      return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    const bool isCut = index.isValid() && sizeHint(option, index).width() > option.rect.width();
+    const QString text = isCut ? index.data().toString() : QString();
+    QToolTip::showText(event->globalPos(), inOneLine(text), view->viewport(), option.rect);
+    return isCut;
   }
 };
 
@@ -65,6 +85,8 @@ void ListView::setUpHeader() {
   header()->setHighlightSections(false);
   connect(header(), &QHeaderView::sectionClicked, this,
           [this](int section) { emit columnClicked(section + 1); });
+  connect(header(), &QHeaderView::sectionResized, this,
+          [this](int section, int, int width) { keepTypedWidth(section, width); });
 }
 
 // The selection stays plain to see while the focus is in a field.
@@ -84,8 +106,56 @@ void ListView::changeEvent(QEvent* event) {
 }
 
 void ListView::addColumn(const QString& header, ColumnWidth width, Qt::Alignment alignment) {
+  least_.append(width.toPixels(logicalDpiX()));
+  byHand_.append(false);
+  sharing_ = true;
   model_->addColumn(header, alignment);
-  setColumnWidth(columnCount() - 1, width.toPixels(logicalDpiX()));
+  sharing_ = false;
+  shareWidth();
+}
+
+void ListView::keepTypedWidth(int column, int width) {
+  if (!sharing_ && column < byHand_.size()) {
+    least_[column] = width;
+    byHand_[column] = true;
+  }
+}
+
+// The first column holds the row's key beside icon and tick: it is never cut short.
+int ListView::leastWidth(int column) const {
+  const int told = least_.at(column);
+  return column > 0 || model_->rowCount() == 0 || byHand_.at(0)
+             ? told
+             : std::max(told, sizeHintForIndex(model_->index(0, 0)).width());
+}
+
+// Each column gets its part of what is left, by its least width; so they come out alike however the
+// list became as wide as it is.
+void ListView::shareWidth() {
+  int spare = viewport()->width();
+  int sharers = 0;
+  for (int column = 0; column < columnCount(); ++column) {
+    const int least = leastWidth(column);
+    spare -= least;
+    sharers += byHand_.at(column) ? 0 : least;
+  }
+  sharing_ = true;
+  for (int column = 0; column < columnCount(); ++column) {
+    const int least = leastWidth(column);
+    int part = 0;
+    if (!byHand_.at(column) && sharers > 0) {
+      part = static_cast<int>(std::int64_t{std::max(spare, 0)} * least / sharers);
+      spare -= part;
+      sharers -= least;
+    }
+    setColumnWidth(column, least + part);
+  }
+  sharing_ = false;
+}
+
+void ListView::resizeEvent(QResizeEvent* event) {
+  QTreeView::resizeEvent(event);
+  shareWidth();
 }
 
 void ListView::setColumnHeader(int column, const QString& header) {
@@ -292,17 +362,9 @@ void ListView::flush() {
   const QPersistentModelIndex shown(model_->index(toShow_, 0));
   model_->flush();
   keepCurrentRow();
-  showFirstColumnWhole();
+  shareWidth();
   toShow_ = shown.row();
   showRow();
-}
-
-// The first column holds the row's key beside icon and tick: it is never cut short.
-void ListView::showFirstColumnWhole() {
-  if (count() > 0 && columnCount() > 0) {
-    const int needed = sizeHintForIndex(model_->index(0, 0)).width();
-    setColumnWidth(0, std::max(columnWidth(0), needed));
-  }
 }
 
 void ListView::keepCurrentRow() {

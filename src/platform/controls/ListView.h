@@ -7,6 +7,10 @@
 // that adding gave, so a handler may fill a list in any way. Nothing is signalled while the program
 // fills.
 //
+// Columns share the width that is left at the right; the widths that they were added with are the
+// least. A column whose border the operator has moved keeps the width given so. A text that its
+// column cuts short shows whole in a tip.
+//
 // A list with rows always has a current row: the first, unless another was clicked or selected.
 //
 // Keyboard: arrows, Home, End and the page keys move; letters typed jump to the row whose first
@@ -50,6 +54,9 @@ class ListView : public QTreeView {
   void addColumn(const QString& header, ColumnWidth width, Qt::Alignment alignment = Qt::AlignLeft);
   void setColumnHeader(int column, const QString& header);
   int columnCount() const;
+  // What a column keeps at least, in pixels: the width that it was added with, or the operator's;
+  // for the first as much as its first row needs.
+  int leastWidth(int column) const;
 
   // Empties the list; the columns stay.
   void clear();
@@ -122,14 +129,16 @@ class ListView : public QTreeView {
   void contextMenuEvent(QContextMenuEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void setUpHeader();
+  void shareWidth();
+  void keepTypedWidth(int column, int width);
   void keepSelectionVisible();
   void showSortIndicator();
   void later();
   void keepCurrentRow();
-  void showFirstColumnWhole();
   void showRow();
   int checked(int row) const;
   int rowAt(const QPoint& position) const;
@@ -138,6 +147,9 @@ class ListView : public QTreeView {
   void goTo(int row);
 
   ListModel* model_;
+  QList<int> least_;      // the columns' widths as they were told, in pixels
+  QList<bool> byHand_;    // whether the operator has set a column's width
+  bool sharing_ = false;  // widths change by the list's own doing
   bool flushPosted_ = false;
   int toShow_ = -1;  // the row that the next flush scrolls to
   QString typed_;

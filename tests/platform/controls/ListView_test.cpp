@@ -1,8 +1,11 @@
 #include "platform/controls/ListView.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 #include "platform/values/RuntimeError.h"
 #include "tests/support/TestMain.h"
@@ -61,6 +64,9 @@ class ListViewTest : public QObject {
   void checkBoxByMouseAndKey();
   void iconsByNumber();
   void firstColumnIsNeverCutShort();
+  void columnsShareWhatIsLeft();
+  void aColumnSetByHandKeepsItsWidth();
+  void aTextCutShortShowsWholeInATip();
   void contextMenuByMouseAndKey();
   void findsBeginningsOfSubItems_data();
   void findsBeginningsOfSubItems();
@@ -510,6 +516,81 @@ void ListViewTest::firstColumnIsNeverCutShort() {
   narrow.setIcon(narrow.addItem("0001/14"), 1);
   narrow.flush();
   QVERIFY(narrow.columnWidth(0) >= 32 + narrow.fontMetrics().horizontalAdvance("0001/14"));
+}
+
+void ListViewTest::columnsShareWhatIsLeft() {
+  ListView list;
+  list.addColumn(QStringLiteral("A"), ColumnWidth::pixels(100));
+  list.addColumn(QStringLiteral("B"), ColumnWidth::pixels(50));
+  list.addColumn(QStringLiteral("C"), ColumnWidth::pixels(150));
+  list.resize(900, 200);
+  list.show();
+  const auto total = [&list] { return list.header()->length(); };
+  QCOMPARE(total(), list.viewport()->width());
+  QVERIFY(std::abs(list.columnWidth(0) - 2 * list.columnWidth(1)) <= 2);
+  QVERIFY(std::abs(list.columnWidth(2) - 3 * list.columnWidth(1)) <= 3);
+  list.resize(1300, 200);
+  QCOMPARE(total(), list.viewport()->width());
+  list.resize(200, 200);
+  QCOMPARE(list.columnWidth(0), 100);
+  QCOMPARE(list.columnWidth(1), 50);
+  QCOMPARE(list.columnWidth(2), 150);
+  // A scroll bar takes its room from what is shared.
+  list.resize(900, 200);
+  for (int row = 0; row < 100; ++row) {
+    list.addItem(QStringLiteral("x"));
+  }
+  list.flush();
+  QTRY_VERIFY(list.verticalScrollBar()->isVisible());
+  QTRY_COMPARE(total(), list.viewport()->width());
+  QVERIFY(!list.horizontalScrollBar()->isVisible());
+}
+
+void ListViewTest::aColumnSetByHandKeepsItsWidth() {
+  list_->resize(900, 200);
+  show();
+  const int border = list_->columnWidth(0) + list_->columnWidth(1);
+  QWidget* const header = list_->header()->viewport();
+  const auto drag = [header](QEvent::Type type, int x, Qt::MouseButtons held) {
+    const QPointF place(x, 8);
+    QMouseEvent event(type, place, header->mapToGlobal(place), Qt::LeftButton, held, {});
+    QApplication::sendEvent(header, &event);
+  };
+  drag(QEvent::MouseButtonPress, border - 1, Qt::LeftButton);
+  drag(QEvent::MouseMove, border + 60, Qt::LeftButton);
+  drag(QEvent::MouseButtonRelease, border + 60, Qt::NoButton);
+  const int byHand = list_->columnWidth(1);
+  QVERIFY(byHand > border - list_->columnWidth(0) + 40);
+  list_->resize(1200, 200);
+  QCOMPARE(list_->columnWidth(1), byHand);
+  QCOMPARE(list_->header()->length(), list_->viewport()->width());
+  list_->resize(300, 200);
+  QCOMPARE(list_->columnWidth(1), byHand);
+}
+
+void ListViewTest::aTextCutShortShowsWholeInATip() {
+  ListView list;
+  list.addColumn(QStringLiteral("N"), ColumnWidth::pixels(60));
+  list.addColumn(QStringLiteral("NOME"), ColumnWidth::pixels(80));
+  const QString name = QStringLiteral("MARIA <B> DA CONCEIÇÃO & FILHOS DO NASCIMENTO");
+  list.addRow({QStringLiteral("1"), name});
+  list.addRow({QStringLiteral("2"), QStringLiteral("ANA")});
+  list.resize(140, 120);
+  list.show();
+  list.flush();
+  const auto askAt = [&list](int row) {
+    const QPoint place = middleOf(list, row, 1);
+    QHelpEvent event(QEvent::ToolTip, place, list.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(list.viewport(), &event);
+  };
+  askAt(0);
+  QVERIFY(QToolTip::isVisible());
+  QCOMPARE(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), name);
+  askAt(1);
+  QTRY_VERIFY(!QToolTip::isVisible());
+  list.resize(900, 120);
+  askAt(0);
+  QVERIFY(!QToolTip::isVisible());
 }
 
 void ListViewTest::contextMenuByMouseAndKey() {
