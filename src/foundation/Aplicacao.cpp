@@ -65,14 +65,12 @@ void cuida_da_janela(QObject* objeto, const QEvent& evento) {
   if (janela.windowType() != Qt::Window && janela.windowType() != Qt::Dialog) {
     return;
   }
-  const bool guardavel = Lugar::guardavel(janela);
-  if (!abre && guardavel) {
-    Lugar::guarda(janela);
-  } else if (abre && guardavel) {
-    Lugar::devolve(janela);
-  }
   if (abre) {
+    Tamanho::mostra_inteira(janela);
+    Lugar::devolve(janela);
     Tamanho::cabe_na_tela(janela);
+  } else {
+    Lugar::guarda(janela);
   }
 }
 

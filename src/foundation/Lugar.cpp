@@ -64,14 +64,17 @@ std::optional<QRect> lugar_descrito(const QString& texto) {
   return QGuiApplication::screenAt(lugar.center()) == nullptr ? std::nullopt : std::optional(lugar);
 }
 
-}  // namespace
-
 bool guardavel(const QWidget& janela) {
   return janela.objectName().startsWith(QLatin1String("frm")) &&
          janela.minimumSize() != janela.maximumSize();
 }
 
+}  // namespace
+
 void devolve(QWidget& janela) {
+  if (!guardavel(janela)) {
+    return;
+  }
   const QString texto = Le_ini(telas(), janela.objectName(), arquivo());
   if (const std::optional<QRect> lugar = lugar_descrito(texto)) {
     janela.setGeometry(*lugar);
@@ -85,7 +88,7 @@ void devolve(QWidget& janela) {
 
 void guarda(QWidget& janela) {
   const QString lugar = descreve(janela);
-  if (janela.isMinimized() || lugar == janela.property(kAoAbrir).toString()) {
+  if (!guardavel(janela) || janela.isMinimized() || lugar == janela.property(kAoAbrir).toString()) {
     return;
   }
   try {

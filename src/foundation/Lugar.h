@@ -7,10 +7,7 @@ class QWidget;
 
 namespace quartela::Lugar {
 
-// Whether the program keeps the place of this window: one of its own, whose size can be changed.
-bool guardavel(const QWidget& janela);
-
-// While the window is being shown.
+// While a window is being shown. Boxes, and windows of a fixed size, have no place of their own.
 void devolve(QWidget& janela);
 
 // While it is being hidden. A folder that cannot be written keeps nothing; nobody is told.

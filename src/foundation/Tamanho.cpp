@@ -29,6 +29,11 @@ class Rolagem : public QScrollArea {
                                : widget()->sizeHint().expandedTo(widget()->minimumSize());
   }
 
+  // What it can be smaller by than its contents need.
+  QSize escondido() const {
+    return widget()->minimumSizeHint().expandedTo(widget()->minimumSize()) - minimumSizeHint();
+  }
+
  protected:
   // A page that grows, or a font that changes, is told to the window's layout.
   bool eventFilter(QObject* objeto, QEvent* evento) override {
@@ -43,6 +48,18 @@ class Rolagem : public QScrollArea {
 
 QSize maximo(const QWidget& janela) {
   return janela.screen()->availableSize() - kMoldura;
+}
+
+void mostra_inteira(QWidget& janela) {
+  QSize precisa = janela.size();
+  for (const QScrollArea* const area : janela.findChildren<QScrollArea*>()) {
+    if (const auto* const rolagem = dynamic_cast<const Rolagem*>(area)) {
+      precisa = precisa.expandedTo(janela.minimumSizeHint() + rolagem->escondido());
+    }
+  }
+  if (precisa != janela.size()) {
+    janela.resize(precisa);
+  }
 }
 
 void cabe_na_tela(QWidget& janela) {

@@ -15,6 +15,10 @@ inline constexpr QSize kMoldura{10, 40};
 // The largest inside that a window on the screen of `janela` may have.
 QSize maximo(const QWidget& janela);
 
+// Makes `janela` large enough for what it may scroll; the application calls it for each window that
+// is shown, before the next.
+void mostra_inteira(QWidget& janela);
+
 // Makes `janela` no larger than maximo(); the application calls it for each window that is shown.
 void cabe_na_tela(QWidget& janela);
 

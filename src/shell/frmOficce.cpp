@@ -124,9 +124,20 @@ void frmOficce::MontaRibbon() {
     }
   }
   ribbon_->Refresh();
-  QPalette cores = lblFiltro_->palette();
-  cores.setColor(QPalette::WindowText, ribbon_->ForeColor());
-  lblFiltro_->setPalette(cores);
+}
+
+// What stands on the theme's colours is written in one that can be read on them.
+void frmOficce::veste_tema() {
+  const auto escreve = [](QLabel& rotulo, const QColor& cor) {
+    QPalette cores = rotulo.palette();
+    cores.setColor(QPalette::WindowText, cor);
+    rotulo.setPalette(cores);
+  };
+  escreve(*lblFiltro_, ribbon_->ForeColor());
+  const bool escuro = ribbon_->BackColor().lightness() < 128;
+  for (QLabel* const painel : barra_->findChildren<QLabel*>()) {
+    escreve(*painel, escuro ? QColor(Qt::white) : QColor(Estilo::kTinta));
+  }
 }
 
 void frmOficce::prepara_lista() {
@@ -296,6 +307,7 @@ void frmOficce::resizeEvent(QResizeEvent* event) {
                       height() - altura_barra - altura_ribbon);
   barra_->setGeometry(0, height() - altura_barra, width(), altura_barra);
   ajusta_filtro();
+  veste_tema();
 }
 
 void frmOficce::paintEvent(QPaintEvent*) {

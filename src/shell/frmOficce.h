@@ -61,6 +61,7 @@ class frmOficce : public QWidget {
   void mostra_menu(int linha, const QPoint& posicao);
   void mostra_filtro(std::int16_t codigo);
   void ajusta_filtro();
+  void veste_tema();
   // Where the row of tabs ends, in pixels.
   int fim_das_guias() const;
   // From the last opened to the first; false when one asked its operator and stays.
