@@ -1,9 +1,14 @@
 // A line for an amount of money, in the Brazilian form.
 //
-// The comma, the keypad's decimal key and the dot all type the decimal comma, so "12.50" becomes
-// "12,50"; letters, a second comma and a third decimal are swallowed. Leaving the field, or Enter,
-// completes the decimals and sets the thousands dots by the format. A pasted amount may bear
-// thousands dots in proper groups; anything else that is no amount is not pasted.
+// Digits, dots and commas are typed as they are, and the keypad's decimal key types a comma; other
+// keys are swallowed. What the amount is, the whole text says: with a comma, dots are thousands
+// ("1.500,00"); dots alone in front of three digits each are thousands ("1.500"); one dot in front
+// of one or two digits is the decimal comma ("1500.5"). "R$" in front and blanks around are passed
+// over. So the same is read however it was typed or pasted.
+//
+// Leaving the field, or Enter, writes the amount by the format. Anything else, more than fourteen
+// digits in front of the comma included, is refused then: the text stays, the field is outlined,
+// and the reason is said beside it.
 #pragma once
 
 #include <QLineEdit>
@@ -20,7 +25,8 @@ class MoneyEdit : public QLineEdit {
  public:
   explicit MoneyEdit(QWidget* parent = nullptr);
 
-  // The amount shown; error 13 when the field is empty or shows no amount, 6 out of range.
+  // The amount shown; error 13 when the field is empty or shows no amount, 6 out of range. Both say
+  // what is wrong.
   Money value() const;
   void setValue(Money value);
   bool isEmpty() const { return text().trimmed().isEmpty(); }
@@ -28,23 +34,34 @@ class MoneyEdit : public QLineEdit {
   // "#,##0.00;(#,##0.00)" at first.
   const QString& format() const { return format_; }
   void setFormat(const QString& format) { format_ = format; }
-  // Whether a minus sign can be typed; false at first.
+  // Whether an amount below zero can be typed; false at first. The program may show one.
   bool isNegativeAllowed() const { return negativeAllowed_; }
   void setNegativeAllowed(bool allowed) { negativeAllowed_ = allowed; }
 
+  // What was typed is no amount; the field is outlined.
+  bool isRefused() const { return refused_; }
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
+  // What of `typed` can be part of an amount.
+  QString accepted(const QString& typed) const;
   void typeComma();
-  // Takes the thousands dots and the brackets away, so that typing inside cannot break the groups.
+  // Takes the thousands dots and the brackets of a written amount away, so that typing inside
+  // cannot break the groups.
   void bare();
-  void complete();
+  // False when what was typed is no amount.
+  bool complete();
+  void setRefused(bool refused, const QString& why = {});
 
   QString format_;
   bool negativeAllowed_ = false;
+  bool refused_ = false;
 };
 
 }  // namespace quartela
