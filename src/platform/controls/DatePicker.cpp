@@ -9,11 +9,14 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QRegularExpressionMatch>
 #include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/controls/Refusal.h"
 #include "platform/values/Clock.h"
 #include "platform/values/Convert.h"
 #include "platform/values/RuntimeError.h"
@@ -65,6 +68,21 @@ QString toShown(DateTime date) {
       .arg(date.year(), 4, 10, QLatin1Char('0'));
 }
 
+// Dashes, dots and blanks for slashes; day and month with two digits in a whole date.
+QString withSlashes(const QString& typed) {
+  static const QRegularExpression separator(QStringLiteral("[-. ]"));
+  static const QRegularExpression date(QStringLiteral("^([0-9]{1,2})/([0-9]{1,2})/([0-9]{4})$"));
+  const QString slashed = typed.trimmed().replace(separator, QStringLiteral("/"));
+  const QRegularExpressionMatch whole = date.match(slashed);
+  if (!whole.hasMatch()) {
+    return slashed;
+  }
+  const auto part = [&whole](int n) {
+    return whole.captured(n).rightJustified(2, QLatin1Char('0'));
+  };
+  return part(1) + QLatin1Char('/') + part(2) + QLatin1Char('/') + whole.captured(3);
+}
+
 }  // namespace
 
 DatePicker::DatePicker(QWidget* parent) : MaskedBox(parent), minimum_(DateTime::of(1900, 1, 1)) {
@@ -74,7 +92,9 @@ DatePicker::DatePicker(QWidget* parent) : MaskedBox(parent), minimum_(DateTime::
   calendar->setText(QStringLiteral("Calendário"));
   calendar->setToolTip(QStringLiteral("Calendário (F4)"));
   connect(calendar, &QAction::triggered, this, &DatePicker::openCalendar);
+  // Whichever the toolkit says first, nobody hears of a text whose value is still the former one.
   connect(this, &QLineEdit::textEdited, this, &DatePicker::follow);
+  connect(this, &QLineEdit::textChanged, this, &DatePicker::follow);
   describe();
 }
 
@@ -138,10 +158,14 @@ bool DatePicker::commit() {
   }
   const QString typed = text();
   render();
+  refuse(typed);
+  return false;
+}
+
+void DatePicker::refuse(const QString& typed) {
   setInvalid(true);
   setToolTip(QStringLiteral("%1 não é uma data: voltou o valor anterior.\n\n").arg(typed) + kHint);
   emit typingRefused(typed);
-  return false;
 }
 
 void DatePicker::take(std::optional<DateTime> date) {
@@ -172,10 +196,57 @@ void DatePicker::setInvalid(bool invalid) {
   }
 }
 
+bool DatePicker::isWhole() const {
+  return date_ && meaning() == Value(*date_);
+}
+
 void DatePicker::moveBy(int days) {
-  if (date_ && isWithinLimits(date_->addDays(days))) {
+  if (!isWhole()) {
+    return;
+  }
+  if (isWithinLimits(date_->addDays(days))) {
     take(date_->addDays(days));
   }
+  selectAll();
+}
+
+void DatePicker::pressToday() {
+  const DateTime today = Clock::today();
+  if (isWithinLimits(today)) {
+    take(today);
+  } else {
+    refuse(toShown(today));
+  }
+  selectAll();
+}
+
+// A dash is a slash as long as the date is being typed: it is not whole, or the caret has just been
+// brought behind a slash.
+bool DatePicker::isSlash(const QKeyEvent& event) const {
+  const int caret = cursorPosition();
+  const bool behindSlash =
+      !hasSelectedText() && caret > 0 && text().at(caret - 1) == QLatin1Char('/');
+  return event.key() == Qt::Key_Minus && (!isWhole() || behindSlash);
+}
+
+void DatePicker::endPart() {
+  const QString shown = text();
+  const int caret = cursorPosition();
+  const bool oneDigit = !hasSelectedText() && (caret == 1 || caret == 4) &&
+                        shown.at(caret - 1).isDigit() && shown.at(caret) == kPrompt;
+  if (oneDigit) {
+    setCursorPosition(caret - 1);
+    MaskedBox::type(QLatin1Char('0') + shown.mid(caret - 1, 1));
+  }
+}
+
+void DatePicker::type(const QString& characters) {
+  const QString typed =
+      characters == QStringLiteral(" ") ? QStringLiteral("/") : withSlashes(characters);
+  if (typed == QStringLiteral("/")) {
+    endPart();
+  }
+  MaskedBox::type(typed);
 }
 
 bool DatePicker::pressDateKey(QKeyEvent* event) {
@@ -183,13 +254,12 @@ bool DatePicker::pressDateKey(QKeyEvent* event) {
   const bool plain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
   const int key = event->key();
   if ((plain && key == Qt::Key_H) || (withControl && key == Qt::Key_Semicolon)) {
-    setToday();
-  } else if (plain && (key == Qt::Key_Plus || key == Qt::Key_Minus)) {
+    pressToday();
+  } else if (plain && (key == Qt::Key_Plus || key == Qt::Key_Minus) && !isSlash(*event)) {
     moveBy(key == Qt::Key_Plus ? 1 : -1);
   } else {
     return pressEmptyKey(event);
   }
-  selectAll();
   return true;
 }
 
@@ -238,9 +308,7 @@ void DatePicker::focusOutEvent(QFocusEvent* event) {
 void DatePicker::paintEvent(QPaintEvent* event) {
   MaskedBox::paintEvent(event);
   if (invalid_) {
-    QPainter painter(this);
-    painter.setPen(QPen(QColor(0xC6, 0x28, 0x28), 2));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    paintRefusal(*this);
   }
 }
 
@@ -279,6 +347,7 @@ QWidget* DatePicker::makeCalendarPopup() {
   connect(calendar, &QCalendarWidget::activated, popup, pick);
 
   auto* today = new QPushButton(QStringLiteral("&Hoje"), popup);
+  today->setEnabled(isWithinLimits(Clock::today()));
   connect(today, &QPushButton::clicked, popup, [pick] { pick(toQDate(Clock::today())); });
   auto* none = new QPushButton(QStringLiteral("&Vazio"), popup);
   none->setEnabled(optional_);

@@ -5,8 +5,12 @@
 // again and marks the field, so that nothing typed by half, and no day that does not exist, ever
 // becomes a date. Years have four digits.
 //
-// Keys: H or Ctrl+; today; + and - the next day and the one before; Delete with everything
-// selected, or Ctrl+Delete, empties; F4 or Alt+Down opens the calendar. The wheel does nothing.
+// Dashes, dots and blanks are typed and pasted for slashes too, and days and months may then have
+// one digit ("5-1-2014").
+//
+// Keys: H or Ctrl+; today, where the limits allow it; + and - the next day and the one before,
+// while a whole date is shown; Delete with everything selected, or Ctrl+Delete, empties; F4 or
+// Alt+Down opens the calendar. The wheel does nothing.
 #pragma once
 
 #include <optional>
@@ -53,6 +57,7 @@ class DatePicker : public MaskedBox {
   void typingRefused(const QString& typed);
 
  protected:
+  void type(const QString& characters) override;
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
@@ -63,6 +68,10 @@ class DatePicker : public MaskedBox {
   using MaskedBox::setText;
 
   bool pressDateKey(QKeyEvent* event);
+  void pressToday();
+  bool isSlash(const QKeyEvent& event) const;
+  // A slash behind the only digit of a day or month ends it.
+  void endPart();
   bool pressEmptyKey(QKeyEvent* event);
   bool isWithinLimits(DateTime date) const;
   // What the shown text means: a date, null for nothing typed, or nothing when it is neither.
@@ -70,8 +79,11 @@ class DatePicker : public MaskedBox {
   void follow();
   // False when what was typed had to give way.
   bool commit();
+  // What is shown is the value, and a date.
+  bool isWhole() const;
   void moveBy(int days);
   void take(std::optional<DateTime> date);
+  void refuse(const QString& typed);
   void render();
   void setInvalid(bool invalid);
   void describe();

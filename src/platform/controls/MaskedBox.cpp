@@ -9,8 +9,12 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QValidator>
 #include <algorithm>
+#include <array>
 #include <memory>
+
+#include "platform/controls/TypedText.h"
 
 namespace quartela {
 namespace {
@@ -20,19 +24,58 @@ bool isKind(QChar character) {
          character == QLatin1Char('&');
 }
 
-bool isTyped(const QKeyEvent& event) {
-  const auto modifiers =
-      event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier);
-  // The third level of a keyboard comes as Ctrl and Alt together.
-  const bool bare =
-      modifiers == Qt::NoModifier || modifiers == (Qt::ControlModifier | Qt::AltModifier);
-  return bare && !event.text().isEmpty() && event.text().at(0).isPrint();
+// What the base class may do of itself in a box with a template: it alters nothing.
+bool leavesTheText(const QKeyEvent& event) {
+  constexpr std::array kKeys = {
+      QKeySequence::Copy,
+      QKeySequence::SelectAll,
+      QKeySequence::Deselect,
+      QKeySequence::MoveToNextChar,
+      QKeySequence::MoveToPreviousChar,
+      QKeySequence::MoveToNextWord,
+      QKeySequence::MoveToPreviousWord,
+      QKeySequence::MoveToStartOfLine,
+      QKeySequence::MoveToEndOfLine,
+      QKeySequence::MoveToStartOfBlock,
+      QKeySequence::MoveToEndOfBlock,
+      QKeySequence::SelectNextChar,
+      QKeySequence::SelectPreviousChar,
+      QKeySequence::SelectNextWord,
+      QKeySequence::SelectPreviousWord,
+      QKeySequence::SelectStartOfLine,
+      QKeySequence::SelectEndOfLine,
+      QKeySequence::SelectStartOfBlock,
+      QKeySequence::SelectEndOfBlock,
+  };
+  return std::any_of(kKeys.begin(), kKeys.end(),
+                     [&](QKeySequence::StandardKey key) { return event.matches(key); });
+}
+
+bool enters(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 }  // namespace
 
+// The toolkit asks its validator after every edit, of whatever kind, and before it tells anyone:
+// text that came past the template goes back into it here.
+class MaskedBox::Template : public QValidator {
+ public:
+  explicit Template(MaskedBox* box) : QValidator(box), box_(box) {}
+
+  State validate(QString& text, int& caret) const override {
+    if (!box_->isPlain() && !box_->fits(text)) {
+      text = box_->templated(text, &caret);
+    }
+    return Acceptable;
+  }
+
+ private:
+  const MaskedBox* box_;
+};
+
 MaskedBox::MaskedBox(QWidget* parent) : QLineEdit(parent) {
-  connect(this, &QLineEdit::textChanged, this, &MaskedBox::restoreTemplate);
+  setValidator(new Template(this));
 }
 
 void MaskedBox::setMask(const QString& mask) {
@@ -46,6 +89,7 @@ void MaskedBox::setMask(const QString& mask) {
     positions_.append({slot ? character : QChar(), slot ? kPrompt : character});
   }
   setDragEnabled(isPlain());
+  setMaxLength(std::max(maxLength(), static_cast<int>(positions_.size())));
   setText(typed);
 }
 
@@ -54,9 +98,9 @@ void MaskedBox::setText(const QString& text) {
     QLineEdit::setText(text);
     return;
   }
-  QString shown = blank();
-  const int caret = fill(shown, 0, text);
-  show(shown, shown == blank() ? nextSlot(0) : caret, false);
+  int caret = 0;
+  const QString shown = templated(text, &caret);
+  show(shown, caret, false);
 }
 
 QString MaskedBox::clipText() const {
@@ -96,6 +140,26 @@ bool MaskedBox::accepts(qsizetype at, QChar character) const {
     default:
       return character.isPrint() && character != kPrompt;
   }
+}
+
+bool MaskedBox::fits(const QString& shown) const {
+  if (shown.size() != positions_.size()) {
+    return false;
+  }
+  for (qsizetype i = 0; i < positions_.size(); ++i) {
+    const bool filled = isSlot(i) && accepts(i, shown.at(i));
+    if (!filled && shown.at(i) != positions_.at(i).literal) {
+      return false;
+    }
+  }
+  return true;
+}
+
+QString MaskedBox::templated(const QString& text, int* end) const {
+  QString shown = blank();
+  const int caret = fill(shown, 0, text);
+  *end = shown == blank() ? nextSlot(0) : caret;
+  return fits(text) ? text : shown;
 }
 
 int MaskedBox::nextSlot(int from) const {
@@ -153,20 +217,12 @@ int MaskedBox::fill(QString& base, int from, const QString& typed) const {
 
 void MaskedBox::show(const QString& shown, int caret, bool edited) {
   const bool changed = shown != text();
-  showing_ = true;
   if (changed) {
     QLineEdit::setText(shown);
   }
-  showing_ = false;
   setCursorPosition(caret);
   if (changed && edited) {
     emit textEdited(shown);
-  }
-}
-
-void MaskedBox::restoreTemplate() {
-  if (!showing_ && !isPlain()) {
-    setText(text());
   }
 }
 
@@ -180,12 +236,13 @@ int MaskedBox::emptySelection(QString& shown) const {
   return selectionStart();
 }
 
-// Characters that fit nowhere leave everything as it is, the selection too.
 void MaskedBox::type(const QString& characters) {
   QString shown = text();
   const int from = emptySelection(shown);
+  const QString emptied = shown;
   const int caret = fill(shown, from, characters);
-  if (caret != nextSlot(from)) {
+  const bool steps = caret != nextSlot(from) && !hasSelectedText();
+  if (steps || shown != emptied) {
     show(shown, caret, true);
   }
 }
@@ -217,18 +274,24 @@ void MaskedBox::deleteForward() {
   show(shown, caret, true);
 }
 
-bool MaskedBox::pressEditKey(QKeyEvent* event) {
-  const bool typed = isTyped(*event);
-  const bool erases = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
-  if (!typed && !erases) {
-    return false;
+void MaskedBox::emptyFrom(int at) {
+  QString shown = text();
+  const QString empty = blank();
+  shown.replace(at, shown.size() - at, empty.mid(at));
+  show(shown, std::max(at, nextSlot(0)), true);
+}
+
+bool MaskedBox::pressEraseKey(QKeyEvent* event) {
+  const bool back = event->key() == Qt::Key_Backspace || event->matches(QKeySequence::Backspace);
+  const bool forward = event->key() == Qt::Key_Delete || event->matches(QKeySequence::Delete);
+  const bool toTheEnd = event->matches(QKeySequence::DeleteEndOfLine);
+  const bool all = event->matches(QKeySequence::DeleteCompleteLine);
+  if (isReadOnly() || !(back || forward || toTheEnd || all)) {
+    return back || forward || toTheEnd || all;
   }
-  if (isReadOnly()) {
-    return true;
-  }
-  if (typed) {
-    type(event->text());
-  } else if (event->key() == Qt::Key_Backspace) {
+  if (all || toTheEnd) {
+    emptyFrom(all ? 0 : cursorPosition());
+  } else if (back) {
     backspace();
   } else {
     deleteForward();
@@ -282,21 +345,33 @@ bool MaskedBox::pressClipboardKey(QKeyEvent* event) {
   return false;
 }
 
-void MaskedBox::keyPressEvent(QKeyEvent* event) {
-  if (!isPlain() && (pressClipboardKey(event) || pressMoveKey(event) || pressEditKey(event))) {
-    event->accept();
-    return;
+bool MaskedBox::pressTypingKey(QKeyEvent* event) {
+  const QString typed = typedText(*event);
+  if (!typed.isEmpty() && !isReadOnly()) {
+    type(typed);
   }
-  QLineEdit::keyPressEvent(event);
+  return !typed.isEmpty();
 }
 
-// Composed characters (an accent and its letter) come this way.
+void MaskedBox::keyPressEvent(QKeyEvent* event) {
+  if (isPlain()) {
+    QLineEdit::keyPressEvent(event);
+  } else if (pressClipboardKey(event) || pressMoveKey(event) || pressEraseKey(event) ||
+             pressTypingKey(event)) {
+    event->accept();
+  } else if (enters(*event) || leavesTheText(*event)) {
+    QLineEdit::keyPressEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
 void MaskedBox::inputMethodEvent(QInputMethodEvent* event) {
-  if (isPlain() || event->commitString().isEmpty()) {
+  if (isPlain()) {
     QLineEdit::inputMethodEvent(event);
     return;
   }
-  if (!isReadOnly()) {
+  if (!isReadOnly() && !event->commitString().isEmpty()) {
     type(event->commitString());
   }
   event->accept();

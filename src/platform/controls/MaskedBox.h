@@ -4,10 +4,13 @@
 // In the mask # stands for a digit, ? for a letter, & for any character but the prompt, and \x for
 // x itself. Typing overwrites in place and steps over literals; Backspace empties the position
 // before the caret, Delete the one behind it; a selection is emptied as a whole. What is pasted may
-// bear the template's literals or not. The empty mask makes it a plain line.
+// bear the template's literals or not. Ctrl+K empties what stands behind the caret, Ctrl+U all.
+// Characters that are being composed (an accent that waits for its letter) come in when they are
+// whole. Other ways of editing that the toolkit has are swallowed, undoing too. The empty mask
+// makes it a plain line.
 //
-// text() is what is shown, prompts and literals included. setText() takes it with and without them;
-// what fits no position is passed over.
+// text() is what is shown, prompts and literals included: always the template's, for whoever hears
+// of a change. setText() takes it with and without them; what fits no position is passed over.
 #pragma once
 
 #include <QLineEdit>
@@ -43,6 +46,10 @@ class MaskedBox : public QLineEdit {
   QString value() const { return promptIncluded_ ? text() : clipText(); }
 
  protected:
+  // Types `characters` at the caret or over the selection. Those that fit nowhere leave everything
+  // as it is, the selection too.
+  virtual void type(const QString& characters);
+
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -51,6 +58,7 @@ class MaskedBox : public QLineEdit {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  class Template;
   struct Position {
     QChar kind;     // one of # ? & for a position to type at, else null
     QChar literal;  // the prompt at a position to type at
@@ -58,6 +66,9 @@ class MaskedBox : public QLineEdit {
 
   bool isPlain() const { return positions_.isEmpty(); }
   bool isSlot(qsizetype at) const { return !positions_.at(at).kind.isNull(); }
+  bool fits(const QString& shown) const;
+  // `text`, typed from the first position on into the empty template.
+  QString templated(const QString& text, int* end) const;
   bool accepts(qsizetype at, QChar character) const;
   int nextSlot(int from) const;
   int previousSlot(int before) const;
@@ -66,23 +77,21 @@ class MaskedBox : public QLineEdit {
   int fill(QString& base, int from, const QString& typed) const;
   int literalFrom(int from, QChar character) const;
 
-  bool pressEditKey(QKeyEvent* event);
+  bool pressTypingKey(QKeyEvent* event);
+  bool pressEraseKey(QKeyEvent* event);
   bool pressMoveKey(QKeyEvent* event);
   bool pressClipboardKey(QKeyEvent* event);
-  void type(const QString& characters);
   void backspace();
   void deleteForward();
+  void emptyFrom(int at);
   // Gives where the selection began, or the caret; the selection's positions are emptied.
   int emptySelection(QString& shown) const;
   void show(const QString& shown, int caret, bool edited);
-  // Brings text that came past the template, through the base class, back into it.
-  void restoreTemplate();
   void putCaretAtFirstSlot();
 
   QString mask_;
   QList<Position> positions_;
   bool promptIncluded_ = true;
-  bool showing_ = false;
 };
 
 }  // namespace quartela

@@ -3,15 +3,21 @@
 #include <QAccessible>
 #include <QAction>
 #include <QCalendarWidget>
+#include <QClipboard>
+#include <QInputMethodEvent>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <algorithm>
+#include <functional>
 
 #include "platform/values/RuntimeError.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
+
+Q_DECLARE_METATYPE(std::function<void(QLineEdit*)>)
 
 namespace {
 
@@ -54,6 +60,17 @@ class DatePickerTest : public QObject {
   void calendarButtons();
   void calendarOfAHalfTypedDate();
   void readOnlyStaysAsItIs();
+  void typedWithOtherSigns_data();
+  void typedWithOtherSigns();
+  void typedWithDashesInPlace();
+  void pastedOverADate_data();
+  void pastedOverADate();
+  void dayKeysNeedAWholeDate_data();
+  void dayKeysNeedAWholeDate();
+  void todayKeepsToTheLimits_data();
+  void todayKeepsToTheLimits();
+  void valueFollowsEveryEdit_data();
+  void valueFollowsEveryEdit();
 
  private:
   QCalendarWidget* calendar() const { return picker_->findChild<QCalendarWidget*>(); }
@@ -343,6 +360,138 @@ void DatePickerTest::readOnlyStaysAsItIs() {
   QTest::keyClick(picker_, Qt::Key_F4);
   QCOMPARE(picker_->text(), "28/02/2014");
   QVERIFY(!calendar());
+}
+
+void DatePickerTest::typedWithOtherSigns_data() {
+  QTest::addColumn<QString>("typed");
+  QTest::newRow("slashes") << "25/12/2014";
+  QTest::newRow("dashes") << "25-12-2014";
+  QTest::newRow("dots") << "25.12.2014";
+  QTest::newRow("blanks") << "25 12 2014";
+}
+
+void DatePickerTest::typedWithOtherSigns() {
+  QFETCH(QString, typed);
+  for (const Value& before : {Value(), Value(DateTime::of(2014, 3, 5))}) {
+    picker_->setValue(before);
+    type(typed);
+    QCOMPARE(picker_->text(), "25/12/2014");
+    QCOMPARE(picker_->value(), Value(DateTime::of(2014, 12, 25)));
+  }
+  QString short_ = typed;
+  type(short_.replace("25", "5").replace("12", "1"));
+  QCOMPARE(picker_->text(), "05/01/2014");
+}
+
+void DatePickerTest::typedWithDashesInPlace() {
+  picker_->setValue(DateTime::of(2014, 3, 5));
+  QTest::keyClick(picker_, Qt::Key_Home);
+  QTest::keyClicks(picker_, "25-12-2015");
+  QCOMPARE(picker_->text(), "25/12/2015");
+}
+
+void DatePickerTest::pastedOverADate_data() {
+  QTest::addColumn<QString>("pasted");
+  QTest::newRow("dashes") << "25-12-2014";
+  QTest::newRow("blanks around") << " 25/12/2014\n";
+  QTest::newRow("digits") << "25122014";
+}
+
+void DatePickerTest::pastedOverADate() {
+  QFETCH(QString, pasted);
+  picker_->setValue(DateTime::of(2014, 3, 5));
+  picker_->selectAll();
+  QApplication::clipboard()->setText(pasted);
+  QTest::keyClick(picker_, Qt::Key_V, Qt::ControlModifier);
+  QCOMPARE(picker_->text(), "25/12/2014");
+  QCOMPARE(picker_->value(), Value(DateTime::of(2014, 12, 25)));
+}
+
+void DatePickerTest::dayKeysNeedAWholeDate_data() {
+  QTest::addColumn<QString>("typed");
+  QTest::addColumn<QString>("shown");
+  QTest::newRow("half typed") << "2512"
+                              << "25/12/____";
+  QTest::newRow("no such day") << "31022014"
+                               << "31/02/2014";
+}
+
+void DatePickerTest::dayKeysNeedAWholeDate() {
+  QFETCH(QString, typed);
+  QFETCH(QString, shown);
+  picker_->setValue(DateTime::of(2014, 3, 5));
+  type(typed);
+  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Minus}) {
+    QTest::keyClick(picker_, key);
+    QCOMPARE(picker_->text(), shown);
+    QCOMPARE(picker_->value(), Value(DateTime::of(2014, 3, 5)));
+  }
+}
+
+void DatePickerTest::todayKeepsToTheLimits_data() {
+  QTest::addColumn<bool>("tooEarly");
+  QTest::newRow("before the first day") << true;
+  QTest::newRow("behind the last day") << false;
+}
+
+void DatePickerTest::todayKeepsToTheLimits() {
+  QFETCH(bool, tooEarly);
+  const DateTime day = tooEarly ? DateTime::of(2015, 1, 1) : DateTime::of(2013, 12, 31);
+  (tooEarly ? picker_->setMinimum(day) : picker_->setMaximum(day));
+  picker_->setValue(day);
+  QSignalSpy refused(picker_, &DatePicker::typingRefused);
+  QTest::keyClick(picker_, Qt::Key_H);
+  QTest::keyClick(picker_, Qt::Key_Semicolon, Qt::ControlModifier);
+  QCOMPARE(picker_->value(), Value(day));
+  QVERIFY(picker_->isInvalid());
+  QCOMPARE(refused.size(), 2);
+  QCOMPARE(refused.at(0).at(0).toString(), "21/11/2014");
+  picker_->openCalendar();
+  const auto buttons = picker_->findChildren<QPushButton*>();
+  const auto today = std::find_if(buttons.begin(), buttons.end(),
+                                  [](auto* button) { return button->text() == "&Hoje"; });
+  QVERIFY(today != buttons.end());
+  QVERIFY(!(*today)->isEnabled());
+}
+
+void DatePickerTest::valueFollowsEveryEdit_data() {
+  QTest::addColumn<std::function<void(QLineEdit*)>>("edit");
+  const auto row = [](const char* name, std::function<void(QLineEdit*)> edit) {
+    QTest::newRow(name) << std::move(edit);
+  };
+  row("line cleared", [](QLineEdit* line) { line->clear(); });
+  row("line set", [](QLineEdit* line) { line->setText("25/12/2014"); });
+  row("everything deleted", [](QLineEdit* line) {
+    line->selectAll();
+    line->del();
+  });
+  row("Ctrl+U", [](QLineEdit* line) { QTest::keyClick(line, Qt::Key_U, Qt::ControlModifier); });
+  row("Ctrl+K at the front", [](QLineEdit* line) {
+    line->setCursorPosition(0);
+    QTest::keyClick(line, Qt::Key_K, Qt::ControlModifier);
+  });
+  row("Ctrl+D", [](QLineEdit* line) {
+    line->setCursorPosition(0);
+    QTest::keyClick(line, Qt::Key_D, Qt::ControlModifier);
+  });
+  row("accent over the selection", [](QLineEdit* line) {
+    line->selectAll();
+    QInputMethodEvent accent(QStringLiteral("´"), {});
+    QApplication::sendEvent(line, &accent);
+  });
+}
+
+void DatePickerTest::valueFollowsEveryEdit() {
+  QFETCH(std::function<void(QLineEdit*)>, edit);
+  picker_->setValue(DateTime::of(2014, 3, 5));
+  edit(picker_);
+  const QString shown = picker_->text();
+  QCOMPARE(shown.size(), 10);
+  const Value half = DateTime::of(2014, 3, 5);
+  const Value expected = shown == "__/__/____"   ? Value()
+                         : shown == "25/12/2014" ? Value(DateTime::of(2014, 12, 25))
+                                                 : half;
+  QCOMPARE(picker_->value(), expected);
 }
 
 QUARTELA_TEST_MAIN(DatePickerTest)

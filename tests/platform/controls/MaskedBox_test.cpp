@@ -4,11 +4,15 @@
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <functional>
 
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
+
+Q_DECLARE_METATYPE(std::function<void(QLineEdit*)>)
 
 namespace {
 
@@ -48,6 +52,11 @@ class MaskedBoxTest : public QObject {
   void emptyMaskIsAPlainLine();
   void editsAreSignalled();
   void valueWithAndWithoutPrompts();
+  void nobodyHearsOfABrokenTemplate_data();
+  void nobodyHearsOfABrokenTemplate();
+  void otherCharactersAreSwallowed_data();
+  void otherCharactersAreSwallowed();
+  void literalThatFitsItsNeighbourStays();
 
  private:
   std::unique_ptr<MaskedBox> box_;
@@ -344,6 +353,97 @@ void MaskedBoxTest::valueWithAndWithoutPrompts() {
   QCOMPARE(box_->value(), "");
   box_->setText(kFullCpf);
   QCOMPARE(box_->value(), "12345678901");
+}
+
+void MaskedBoxTest::nobodyHearsOfABrokenTemplate_data() {
+  QTest::addColumn<std::function<void(QLineEdit*)>>("edit");
+  const auto row = [](const char* name, std::function<void(QLineEdit*)> edit) {
+    QTest::newRow(name) << std::move(edit);
+  };
+  row("cleared", [](QLineEdit* line) { line->clear(); });
+  row("text deleted", [](QLineEdit* line) {
+    line->setSelection(2, 5);
+    line->del();
+  });
+  row("text erased", [](QLineEdit* line) { line->backspace(); });
+  row("text inserted", [](QLineEdit* line) { line->insert("77"); });
+  row("undone", [](QLineEdit* line) {
+    line->insert("77");
+    line->undo();
+  });
+  row("cut", [](QLineEdit* line) {
+    line->setSelection(1, 9);
+    line->cut();
+  });
+  row("composed over the selection", [](QLineEdit* line) {
+    line->selectAll();
+    QInputMethodEvent accent(QStringLiteral("´"), {});
+    QApplication::sendEvent(line, &accent);
+  });
+  row("composed in the place of others", [](QLineEdit* line) {
+    QInputMethodEvent composed;
+    composed.setCommitString("9", -3, 20);
+    QApplication::sendEvent(line, &composed);
+  });
+  for (const Qt::Key key : {Qt::Key_U, Qt::Key_K, Qt::Key_D, Qt::Key_Z, Qt::Key_Y, Qt::Key_H,
+                            Qt::Key_W, Qt::Key_Backspace, Qt::Key_Delete}) {
+    row(qPrintable("Ctrl and " + QKeySequence(key).toString()),
+        [key](QLineEdit* line) { QTest::keyClick(line, key, Qt::ControlModifier); });
+  }
+}
+
+void MaskedBoxTest::nobodyHearsOfABrokenTemplate() {
+  QFETCH(std::function<void(QLineEdit*)>, edit);
+  box_->setText(kFullCpf);
+  box_->setCursorPosition(5);
+  const auto whole = [](const QString& heard) {
+    static const QRegularExpression shape("^[0-9_]{3}\\.[0-9_]{3}\\.[0-9_]{3}-[0-9_]{2}$");
+    return shape.match(heard).hasMatch();
+  };
+  QStringList broken;
+  const auto hear = [&] {
+    if (!whole(box_->text())) {
+      broken << box_->text();
+    }
+    (void)box_->clipText();
+    (void)box_->isComplete();
+  };
+  connect(box_.get(), &QLineEdit::textEdited, box_.get(), hear);
+  connect(box_.get(), &QLineEdit::textChanged, box_.get(), hear);
+  connect(box_.get(), &QLineEdit::cursorPositionChanged, box_.get(), hear);
+  connect(box_.get(), &QLineEdit::selectionChanged, box_.get(), hear);
+  edit(box_.get());
+  hear();
+  QCOMPARE(broken, QStringList());
+}
+
+void MaskedBoxTest::otherCharactersAreSwallowed_data() {
+  QTest::addColumn<QString>("typed");
+  QTest::newRow("emoji") << QStringLiteral("\U0001F600");
+  QTest::newRow("zero-width blank") << QStringLiteral("\u200B");
+  QTest::newRow("zero-width joiner") << QStringLiteral("\u200D");
+  QTest::newRow("private use") << QStringLiteral("\uE000");
+}
+
+void MaskedBoxTest::otherCharactersAreSwallowed() {
+  QFETCH(QString, typed);
+  for (const QString& mask :
+       {kCpf, QString("###.###.###-##").replace('#', '?'), QStringLiteral("&&&.&&&.&&&-&&")}) {
+    box_->setMask(mask);
+    box_->setText("");
+    box_->setCursorPosition(0);
+    for (const Qt::KeyboardModifier held : {Qt::NoModifier, Qt::ControlModifier}) {
+      QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, held, typed);
+      QApplication::sendEvent(box_.get(), &press);
+      QCOMPARE(box_->text(), kBlankCpf);
+    }
+  }
+}
+
+void MaskedBoxTest::literalThatFitsItsNeighbourStays() {
+  box_->setMask("&-&");
+  box_->setText("a-b");
+  QCOMPARE(box_->text(), "a-b");
 }
 
 QUARTELA_TEST_MAIN(MaskedBoxTest)
