@@ -20,9 +20,8 @@ Caminhos caminhos;
 namespace {
 
 void le_caminhos() {
-  const QString config = programFile(QStringLiteral("Config.ini"));
-  const auto le = [&config](const char* chave) {
-    return Le_ini(QStringLiteral("Diretorio"), QLatin1String(chave), config);
+  const auto le = [](const char* chave) {
+    return Le_config(QStringLiteral("Diretorio"), QLatin1String(chave));
   };
   caminhos.geral = le("caminhogeral");
   caminhos.number = le("number");

@@ -18,4 +18,12 @@ void Grava_ini(const QString& secao, const std::vector<KeyValue>& chaves, const 
   writeKeys(nativePath(arquivo), secao, chaves);
 }
 
+QString Le_config(const QString& secao, const QString& chave) {
+  return Le_ini(secao, chave, programFile(QStringLiteral("Config.ini")));
+}
+
+void Grava_config(const QString& secao, const QString& chave, const QString& valor) {
+  Grava_ini(secao, chave, valor, programFile(QStringLiteral("Config.ini")));
+}
+
 }  // namespace quartela

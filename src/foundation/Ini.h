@@ -19,4 +19,8 @@ void Grava_ini(const QString& secao, const QString& chave, const QString& valor,
                const QString& arquivo);
 void Grava_ini(const QString& secao, const std::vector<KeyValue>& chaves, const QString& arquivo);
 
+// The same for Config.ini in the program's folder.
+QString Le_config(const QString& secao, const QString& chave);
+void Grava_config(const QString& secao, const QString& chave, const QString& valor);
+
 }  // namespace quartela

@@ -81,6 +81,6 @@ void Carrega_Combo(ComboBox& combo, const QString& sql);
 
 // The next number of a transport sheet: in the process (mode 1) or of all (mode 2). 0 when there is
 // none before it, and on any failure; nothing is told.
-std::int16_t Proximo_planilha(std::int16_t modo, std::int32_t processo);
+std::int32_t Proximo_planilha(std::int16_t modo, std::int32_t processo);
 
 }  // namespace quartela

@@ -2,6 +2,7 @@
 
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
+#include "foundation/Escritorio.h"
 #include "foundation/Leitura.h"
 #include "foundation/Rotinas.h"
 #include "platform/controls/ComboBox.h"
@@ -57,7 +58,7 @@ QString Consulta_combo(const QString& tabela, const QString& texto, const QStrin
   QString achado = texto;
   Sob_trava(QStringLiteral("Função Consulta_combo"), [&] {
     Sql_atual = "SELECT TOP 1 " + coluna + " FROM " + tabela + " WHERE " + coluna + " Like '" +
-                texto + "%' ORDER BY " + coluna + "  Asc;";
+                Texto_procurado(texto) + "%' ORDER BY " + coluna + "  Asc;";
     le_primeira([&achado](const Value& valor) { achado = Convert::toText(valor); });
   });
   return achado;
@@ -93,13 +94,13 @@ void Carrega_Combo(ComboBox& combo, const QString& sql) {
   });
 }
 
-std::int16_t Proximo_planilha(std::int16_t modo, std::int32_t processo) {
-  std::int16_t proximo = 0;
+std::int32_t Proximo_planilha(std::int16_t modo, std::int32_t processo) {
+  std::int32_t proximo = 0;
   try {
     monta_maior_planilha(modo, processo);
     le_primeira([&proximo](const Value& maior) {
       const double seguinte = Convert::toNumber(maior) + 1;
-      proximo = Convert::toI16(Format(seguinte, u"00"));
+      proximo = Le_numero(Format(seguinte, u"00"));
     });
   } catch (const RuntimeError&) {
     return 0;

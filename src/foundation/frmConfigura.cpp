@@ -9,15 +9,10 @@
 #include "foundation/Ini.h"
 #include "foundation/UmaJanela.h"
 #include "foundation/ui_frmConfigura.h"
-#include "platform/files/ProgramFolder.h"
 #include "platform/values/Convert.h"
 
 namespace quartela {
 namespace {
-
-QString config() {
-  return programFile(QStringLiteral("Config.ini"));
-}
 
 struct Texto {
   const char* secao;
@@ -62,23 +57,23 @@ frmConfigura::~frmConfigura() = default;
 void frmConfigura::carrega() {
   for (const Texto& texto : kTextos) {
     (ui_.get()->*texto.caixa)
-        ->setText(Le_ini(QLatin1String(texto.secao), QLatin1String(texto.chave), config()));
+        ->setText(Le_config(QLatin1String(texto.secao), QLatin1String(texto.chave)));
   }
   for (const Marca& marca : kMarcas) {
-    const QString valor = Le_ini(QLatin1String(marca.secao), QLatin1String(marca.chave), config());
+    const QString valor = Le_config(QLatin1String(marca.secao), QLatin1String(marca.chave));
     (ui_.get()->*marca.caixa)->setChecked(Convert::toI16(Value(valor)) != 0);
   }
 }
 
 void frmConfigura::Command1_click() {
   for (const Texto& texto : kTextos) {
-    Grava_ini(QLatin1String(texto.secao), QLatin1String(texto.chave),
-              (ui_.get()->*texto.caixa)->text(), config());
+    Grava_config(QLatin1String(texto.secao), QLatin1String(texto.chave),
+                 (ui_.get()->*texto.caixa)->text());
   }
   for (const Marca& marca : kMarcas) {
     const bool marcada = (ui_.get()->*marca.caixa)->isChecked();
-    Grava_ini(QLatin1String(marca.secao), QLatin1String(marca.chave),
-              marcada ? QStringLiteral("1") : QStringLiteral("0"), config());
+    Grava_config(QLatin1String(marca.secao), QLatin1String(marca.chave),
+                 marcada ? QStringLiteral("1") : QStringLiteral("0"));
   }
   close();
 }

@@ -96,11 +96,10 @@ void frmLogin::recusa_senha() {
 
 // How the chosen database reaches Abre_banco; written at each login, changed or not.
 void frmLogin::grava_caminhogeral() {
-  const QString arquivo = programFile(QStringLiteral("Config.ini"));
   const QString secao = QStringLiteral("Diretorio");
   const bool local = ui_->Combo->currentIndex() == 0;
   const QString chave = local ? QStringLiteral("caminho") : QStringLiteral("caminho2");
-  Grava_ini(secao, QStringLiteral("caminhogeral"), Le_ini(secao, chave, arquivo), arquivo);
+  Grava_config(secao, QStringLiteral("caminhogeral"), Le_config(secao, chave));
 }
 
 void mostra_frmLogin() {

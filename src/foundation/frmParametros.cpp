@@ -7,7 +7,6 @@
 #include "foundation/UmaJanela.h"
 #include "foundation/ui_frmParametros.h"
 #include "platform/dialogs/Dialogs.h"
-#include "platform/files/ProgramFolder.h"
 
 namespace quartela {
 namespace {
@@ -17,11 +16,11 @@ const QString kFiltroBanco = QStringLiteral("Banco de dados Access (*.MDB)|*.MDB
 const QString kFiltroIni = QStringLiteral("Banco de dados Access (*.ini)|*.ini|");
 
 QString le(const QString& chave) {
-  return Le_ini(kSecao, chave, programFile(QStringLiteral("Config.ini")));
+  return Le_config(kSecao, chave);
 }
 
 void grava(const QString& chave, const QLineEdit& caixa) {
-  Grava_ini(kSecao, chave, caixa.text(), programFile(QStringLiteral("Config.ini")));
+  Grava_config(kSecao, chave, caixa.text());
 }
 
 // A cancelled dialog empties the box: that is how a path is taken out.

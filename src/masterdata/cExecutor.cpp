@@ -1,6 +1,7 @@
 #include "masterdata/cExecutor.h"
 
 #include "foundation/Banco.h"
+#include "foundation/Escritorio.h"
 #include "masterdata/ListaCadastro.h"
 #include "masterdata/Pessoa.h"
 #include "platform/values/Convert.h"
@@ -58,7 +59,8 @@ void cExecutor::Lista_Executor(ListView& lista, std::int16_t modo) {
   if (modo == 0) {
     comando = selecao + QStringLiteral(";");
   } else if (modo == 1) {
-    comando = selecao + QStringLiteral(" AND Executor.NOME Like '%") + Nome + QStringLiteral("%';");
+    comando = selecao + QStringLiteral(" AND Executor.NOME Like '%") + Texto_procurado(Nome) +
+              QStringLiteral("%';");
   }
   Preenche_lista_sob_trava(lista, comando, linha_do_ordenador);
 }

@@ -1,6 +1,7 @@
 #include "masterdata/cOrgao.h"
 
 #include "foundation/Banco.h"
+#include "foundation/Escritorio.h"
 #include "masterdata/ListaCadastro.h"
 #include "platform/values/Convert.h"
 #include "records/Consulta.h"
@@ -32,7 +33,7 @@ void cOrgao::Lista_Orgao(ListView& lista, std::int16_t modo) {
   } else if (modo == 1) {
     comando =
         QStringLiteral("SELECT Orgao.IDORGAO, Orgao.Orgao FROM Orgao WHERE Orgao.ORGAO Like '%") +
-        Orgao + QStringLiteral("%';");
+        Texto_procurado(Orgao) + QStringLiteral("%';");
   }
   Preenche_lista(lista, comando, [] {
     return LinhaCadastro{.celulas = {Celula(0, u"0000"), Celula(1)}};

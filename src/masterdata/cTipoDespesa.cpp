@@ -1,6 +1,7 @@
 #include "masterdata/cTipoDespesa.h"
 
 #include "foundation/Banco.h"
+#include "foundation/Escritorio.h"
 #include "masterdata/ListaCadastro.h"
 #include "records/Gravacao.h"
 
@@ -31,7 +32,7 @@ void cTipoDespesa::Lista_Finalidade(ListView& lista, std::int16_t modo) {
     comando = QStringLiteral(
                   "SELECT Finalidade.ID, Finalidade.FINALIDADE FROM Finalidade WHERE FINALIDADE "
                   "Like '%") +
-              Finalidade + QStringLiteral("%';");
+              Texto_procurado(Finalidade) + QStringLiteral("%';");
   }
   Preenche_lista(lista, comando, [] {
     return LinhaCadastro{.celulas = {Celula(0, u"0000"), Celula(1)}};

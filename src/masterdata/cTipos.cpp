@@ -1,6 +1,7 @@
 #include "masterdata/cTipos.h"
 
 #include "foundation/Banco.h"
+#include "foundation/Escritorio.h"
 #include "masterdata/ListaCadastro.h"
 #include "platform/values/Convert.h"
 #include "records/Consulta.h"
@@ -54,8 +55,8 @@ void cTipos::Lista_Tipos(ListView& lista, std::int16_t modo) {
   if (modo == 0) {
     comando = selecao + QStringLiteral("; ");
   } else if (modo == 1) {
-    comando =
-        selecao + QStringLiteral(" WHERE Orgao.ORGAO Like '%") + Secretaria + QStringLiteral("%';");
+    comando = selecao + QStringLiteral(" WHERE Orgao.ORGAO Like '%") + Texto_procurado(Secretaria) +
+              QStringLiteral("%';");
   }
   Preenche_lista(lista, comando, linha_do_tipo);
 }

@@ -1,6 +1,7 @@
 #include "masterdata/cTomador.h"
 
 #include "foundation/Banco.h"
+#include "foundation/Escritorio.h"
 #include "masterdata/ListaCadastro.h"
 #include "masterdata/Pessoa.h"
 #include "platform/values/Convert.h"
@@ -55,8 +56,8 @@ void cTomador::Lista_Tomador(ListView& lista, std::int16_t modo) {
   if (modo == 0) {
     comando = selecao + QStringLiteral(";");
   } else if (modo == 1) {
-    comando =
-        selecao + QStringLiteral(" Where Tomador.NOME1 Like '%") + Nome + QStringLiteral("%';");
+    comando = selecao + QStringLiteral(" Where Tomador.NOME1 Like '%") + Texto_procurado(Nome) +
+              QStringLiteral("%';");
   }
   Preenche_lista_sob_trava(lista, comando, linha_do_responsavel);
 }

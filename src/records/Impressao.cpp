@@ -3,7 +3,6 @@
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
 #include "foundation/Ini.h"
-#include "platform/files/ProgramFolder.h"
 
 namespace quartela {
 namespace {
@@ -40,9 +39,8 @@ bool imprime_requisicao(const QString& comando) {
 }
 
 bool Exibe_antes() {
-  return Le_ini(QStringLiteral("Requisicao"), QStringLiteral("valor2"),
-                programFile(QStringLiteral("Config.ini")))
-             .trimmed() != QStringLiteral("0");
+  return Le_config(QStringLiteral("Requisicao"), QStringLiteral("valor2")).trimmed() !=
+         QStringLiteral("0");
 }
 
 }  // namespace quartela

@@ -1,6 +1,7 @@
 #include "records/cPrestContas.h"
 
 #include "foundation/Banco.h"
+#include "foundation/Escritorio.h"
 #include "foundation/Leitura.h"
 #include "platform/controls/ListView.h"
 #include "platform/values/Convert.h"
@@ -93,9 +94,9 @@ bool cPrestContas::Verifica_Prest() {
   return tem;
 }
 
-void cPrestContas::Envia_dados(std::int16_t numero) {
+void cPrestContas::Envia_dados(std::int32_t numero) {
   Carrega_registro(
-      QStringLiteral("Select * From PrestContas WHERE SEQ =") + QString::number(numero),
+      QStringLiteral("Select * From PrestContas WHERE SEQ =") + QString::number(Le_numero(numero)),
       [this] { Le_campos(); });
 }
 
@@ -105,7 +106,7 @@ void cPrestContas::Le_campos() {
   Ordem = Convert::toText(Tabela.field(u"ORDEM"));
   Despesas = Convert::toMoney(Tabela.field(u"DESPESAS"));
   Historico = Convert::toText(Tabela.field(u"HISTORICO"));
-  ID_Viagem = Convert::toI16(Tabela.field(u"ID_Viagem"));
+  ID_Viagem = Le_numero(Tabela.field(u"ID_Viagem"));
 }
 
 }  // namespace quartela

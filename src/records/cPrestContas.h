@@ -19,8 +19,8 @@ class cPrestContas {
  public:
   static cPrestContas& compartilhada();
 
-  std::int16_t Seq = 0;        // an entry above 32767 can be stored but not addressed
-  std::int16_t ID_Viagem = 0;  // 0 or the key of a travel sheet
+  std::int32_t Seq = 0;        // read by Le_numero wherever it is typed or shown
+  std::int32_t ID_Viagem = 0;  // 0 or the key of a travel sheet
   std::int32_t processo = 0;   // the empenho number
   DateTime Data;
   QString Ordem;  // the fiscal document's number
@@ -48,8 +48,8 @@ class cPrestContas {
   bool Verifica_Prest();
 
   // Loads the note of that key; without one the properties keep their values. Raises what the
-  // reading and the conversion of an empty column (13) raise.
-  void Envia_dados(std::int16_t numero);
+  // reading, Le_numero and the conversion of an empty column (13) raise.
+  void Envia_dados(std::int32_t numero);
 
  private:
   void Grava_campos() const;

@@ -1,6 +1,7 @@
 #include "records/cRequisicao.h"
 
 #include "foundation/Banco.h"
+#include "foundation/Escritorio.h"
 #include "foundation/Leitura.h"
 #include "platform/values/Convert.h"
 #include "records/Consulta.h"
@@ -44,11 +45,11 @@ bool cRequisicao::Verifica_registro() {
   return aberto;
 }
 
-void cRequisicao::Envia_dados(std::int16_t numero) {
+void cRequisicao::Envia_dados(std::int32_t numero) {
   Carrega_registro(
       QStringLiteral("Select Requisicao.*, Executor.IDORGAO From Requisicao, Executor WHERE "
                      "Requisicao.ORGAO = Executor.ORDEM AND SEQ =") +
-          QString::number(numero),
+          QString::number(Le_numero(numero)),
       [this] { Le_campos(); });
 }
 

@@ -27,10 +27,10 @@ class cRequisicao : public CamposRequisicao {
   // an advance counts as open. Raises what the reading raises.
   bool Verifica_registro();
 
-  // Loads the row of that process number; without one the properties keep their values. A process
-  // number above 32767 does not fit the argument. Raises what the reading and the conversion of an
-  // empty column (13) raise, with the screen's pointer still an hourglass.
-  void Envia_dados(std::int16_t numero);
+  // Loads the row of that process number; without one the properties keep their values.
+  // Raises what Le_numero raises, and what the reading and the conversion of an empty column (13)
+  // raise, with the screen's pointer still an hourglass.
+  void Envia_dados(std::int32_t numero);
 
  private:
   void Grava_campos() const;

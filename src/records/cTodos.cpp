@@ -1,6 +1,7 @@
 #include "records/cTodos.h"
 
 #include "foundation/Banco.h"
+#include "foundation/Escritorio.h"
 #include "foundation/Leitura.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/StatusBar.h"
@@ -101,8 +102,6 @@ void cTodos::Lista_Procura(ListView& lista, std::int16_t codigo) {
   Lista_sob_trava(kRotulo, [&] { preenche(lista, comando_procura(codigo), adiciona_procurado); });
 }
 
-// The search text goes into the statement as it was typed: a quote in it breaks the statement,
-// which is then refused as a whole.
 QString cTodos::comando_movimento(std::int16_t codigo) const {
   const QString todos = QStringLiteral("SELECT * FROM Sel_Req_left ");
   const QString com_empenho = QStringLiteral("SELECT * FROM Sel_Req_inner ");
@@ -126,19 +125,21 @@ QString cTodos::comando_movimento(std::int16_t codigo) const {
                          "((Year([Requisicao].[Data])) = Year(Now()))) "
                          "ORDER BY Requisicao.SEQ DESC;");
     case 5:
-      return todos + QStringLiteral(" WHERE Tomador.NOME1 LIKE '%") + Nome + QStringLiteral("%';");
+      return todos + QStringLiteral(" WHERE Tomador.NOME1 LIKE '%") + Texto_procurado(Nome) +
+             QStringLiteral("%';");
     case 6:
       return todos + QStringLiteral(" WHERE Requisicao.SEQ =") + QString::number(Seq);
     case 7:
-      return todos + QStringLiteral(" WHERE (((Tomador.NOME1) Like '%") + Nome +
+      return todos + QStringLiteral(" WHERE (((Tomador.NOME1) Like '%") + Texto_procurado(Nome) +
              QStringLiteral(
                  "%') And ((Adiantamento.FECHAMENTO) Is Null) And "
                  "((Year(Requisicao.DATA))=Year(Now())));");
     case 8:
-      return com_empenho + QStringLiteral(" WHERE (((Tomador.NOME1) Like '%") + Nome +
+      return com_empenho + QStringLiteral(" WHERE (((Tomador.NOME1) Like '%") +
+             Texto_procurado(Nome) +
              QStringLiteral("%') AND ((Adiantamento.FECHAMENTO) Is Null));");
     case 9:
-      return todos + QStringLiteral(" WHERE (((Tomador.NOME1) Like '%") + Nome +
+      return todos + QStringLiteral(" WHERE (((Tomador.NOME1) Like '%") + Texto_procurado(Nome) +
              QStringLiteral("%') AND ((Adiantamento.FECHAMENTO) Is Not Null));");
     default:
       return {};
@@ -159,10 +160,10 @@ QString cTodos::comando_procura(std::int16_t codigo) const {
                             "WHERE (((Adiantamento.RETIRADA) Is Not Null) AND "
                             "((Adiantamento.FECHAMENTO) Is Null));");
     case 2:
-      return empenhos + QStringLiteral("WHERE (((Tomador.NOME1) Like '%") + Nome +
+      return empenhos + QStringLiteral("WHERE (((Tomador.NOME1) Like '%") + Texto_procurado(Nome) +
              QStringLiteral("%') AND ((Adiantamento.FECHAMENTO) Is Null));");
     case 3:
-      return empenhos + QStringLiteral("WHERE (((Tipos.TIPO) Like '%") + Tipo +
+      return empenhos + QStringLiteral("WHERE (((Tipos.TIPO) Like '%") + Texto_procurado(Tipo) +
              QStringLiteral("%') AND ((Adiantamento.FECHAMENTO) Is Null));");
     case 4:
       return empenhos + QStringLiteral("WHERE (((Adiantamento.FECHAMENTO) Is Not Null));");

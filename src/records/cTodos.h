@@ -17,7 +17,7 @@ class cTodos {
   static cTodos& compartilhada();
 
   // Only Seq, Nome and Tipo take part in a query.
-  std::int16_t Seq = 0;  // process number
+  std::int32_t Seq = 0;  // process number
   QString Nome;
   Money Valor;
   QString Finalidade;

@@ -6,7 +6,6 @@
 #include "foundation/Ini.h"
 #include "foundation/Textos.h"
 #include "platform/dialogs/Dialogs.h"
-#include "platform/files/ProgramFolder.h"
 #include "platform/values/Format.h"
 #include "records/Impressao.h"
 #include "reports/Saida.h"
@@ -21,13 +20,8 @@ using reporting::SectionInstance;
 constexpr qsizetype kDigitosContador = 4;
 constexpr qsizetype kDigitosAno = 2;
 
-// Read at each page: the operator may change the settings while a preview is open.
-QString configurado(const QString& secao, const QString& chave) {
-  return Le_ini(secao, chave, programFile(QStringLiteral("Config.ini")));
-}
-
 bool pergunta_antes() {
-  return configurado(QStringLiteral("Requisicao"), QStringLiteral("valor")).trimmed() ==
+  return Le_config(QStringLiteral("Requisicao"), QStringLiteral("valor")).trimmed() ==
          QLatin1String("1");
 }
 
@@ -70,8 +64,8 @@ void formata_rodape(SectionInstance& rodape) {
     }
   }
   const QString financas = QStringLiteral("Financas");
-  rodape.setText(u"Field29", configurado(financas, QStringLiteral("nome")));
-  rodape.setText(u"Field32", configurado(financas, QStringLiteral("cargo")));
+  rodape.setText(u"Field29", Le_config(financas, QStringLiteral("nome")));
+  rodape.setText(u"Field32", Le_config(financas, QStringLiteral("cargo")));
   rodape.setText(u"Field33", rodape.text(u"Field3"));
   rodape.setText(u"Field34", rodape.text(u"Field25"));
 }

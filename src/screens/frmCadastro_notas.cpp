@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "foundation/Erros.h"
+#include "foundation/Escritorio.h"
 #include "foundation/Rotinas.h"
 #include "foundation/Textos.h"
 #include "platform/dialogs/Dialogs.h"
@@ -121,7 +122,7 @@ void frmCadastro::Alterar() {
   }
   altera_nota_ = true;
   cPrestContas& nota = cPrestContas::compartilhada();
-  nota.Envia_dados(Convert::toI16(ui_->txtseq->text()));
+  nota.Envia_dados(Le_numero(ui_->txtseq->text()));
   data_nota_ = nota.Data;
   ui_->txtdatanota->setText(Format(nota.Data, u"dd/MM/yyyy"));
   ui_->txtordem->setText(nota.Ordem);
@@ -185,7 +186,7 @@ bool frmCadastro::nota_aceita() {
 // A note that could not be written stays on the screen, to be saved again.
 void frmCadastro::grava_nota() {
   cPrestContas& nota = cPrestContas::compartilhada();
-  nota.Seq = Convert::toI16(ui_->txtseq->text());
+  nota.Seq = Le_numero(ui_->txtseq->text());
   nota.processo = empenho_identificado();
   nota.Data = Com_hora_carregada(Convert::toDateTime(ui_->txtdatanota->text()), data_nota_);
   nota.Ordem = ui_->txtordem->text().trimmed();
@@ -242,7 +243,7 @@ void frmCadastro::mnExcluir_Click() {
     return;
   }
   cPrestContas& nota = cPrestContas::compartilhada();
-  nota.Seq = Convert::toI16(item);
+  nota.Seq = Le_numero(item);
   nota.Del_prest();
   relista_notas();
   ui_->txtdatanota->clear();

@@ -1,5 +1,6 @@
 // The requisition side of the process screen: loading, saving, printing.
 #include "foundation/Banco.h"
+#include "foundation/Escritorio.h"
 #include "foundation/Evento.h"
 #include "foundation/Ini.h"
 #include "platform/dialogs/Dialogs.h"
@@ -23,7 +24,7 @@ constexpr int kAbertura = 7;  // the main list's column of the empenho's opening
 
 void frmCadastro::Carrega_dados() {
   cRequisicao& requisicao = cRequisicao::compartilhada();
-  requisicao.Envia_dados(Convert::toI16(QString(Tag_principal).remove(QLatin1Char('/'))));
+  requisicao.Envia_dados(Le_numero(QString(Tag_principal).remove(QLatin1Char('/'))));
   campos().mskprocesso->setText(Format(requisicao.Seq, u"0000/00"));
   ui_->fracadastro->mostra(requisicao);
   if (!Subitem_principal(kAbertura).isEmpty()) {

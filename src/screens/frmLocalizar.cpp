@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "foundation/Escritorio.h"
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "platform/values/Convert.h"
@@ -40,7 +41,7 @@ void localiza_nome(const QString& nome) {
 }
 
 void localiza_processo(QString numero) {
-  cTodos::compartilhada().Seq = Convert::toI16(numero.remove(QLatin1Char('/')));
+  cTodos::compartilhada().Seq = Le_numero(numero.remove(QLatin1Char('/')));
   Lista_principal(kPorNumero);
 }
 

@@ -187,7 +187,7 @@ class cPrestContasTest : public QObject {
     QCOMPARE(note.Ordem, QStringLiteral("B"));
     QCOMPARE(note.Historico, QStringLiteral("Dois"));
     QVERIFY(note.Despesas == Money::fromCents(50));
-    QCOMPARE(note.ID_Viagem, std::int16_t{4});
+    QCOMPARE(note.ID_Viagem, 4);
   }
 
   void loadingAnEmptyColumnFails_data() {
