@@ -14,7 +14,7 @@
 -- leave their notes and documents behind, so no relation is declared there.
 
 PRAGMA application_id = 0x51544C41;
-PRAGMA user_version = 2;
+PRAGMA user_version = 3;
 
 -- Secretariats.
 CREATE TABLE Orgao (

@@ -75,7 +75,7 @@ void BuilderTest::fileIsMarked() {
   database::createEmptyDatabase(path());
   PlainDatabase plain(path());
   QCOMPARE(plain.number("PRAGMA application_id"), 0x51544C41);
-  QCOMPARE(plain.number("PRAGMA user_version"), 2);
+  QCOMPARE(plain.number("PRAGMA user_version"), 3);
   QCOMPARE(plain.text("PRAGMA encoding"), QString("UTF-8"));
 }
 
