@@ -334,7 +334,7 @@ def write_set(name, icons, size):
 
 def main():
     lines = write_set("ribbon", RIBBON, 24) + write_set("rows", ROWS, 32)
-    lines.append('    <file alias="crest.svg">../crest/crest.svg</file>\n')
+    lines.append('    <file alias="crest.svg">../reports/crest.svg</file>\n')
     text = '<RCC>\n  <qresource prefix="/icons">\n' + "".join(lines) + "  </qresource>\n</RCC>\n"
     write(FOLDER / "icons.qrc", text)
 
