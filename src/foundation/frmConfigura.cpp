@@ -1,11 +1,12 @@
 #include "foundation/frmConfigura.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <array>
 
 #include "foundation/Aplicacao.h"
+#include "foundation/Escape.h"
 #include "foundation/Estilo.h"
+#include "foundation/Fechamento.h"
 #include "foundation/Ini.h"
 #include "foundation/UmaJanela.h"
 #include "foundation/ui_frmConfigura.h"
@@ -49,7 +50,9 @@ frmConfigura::frmConfigura() : ui_(std::make_unique<Ui::frmConfigura>()) {
   Estilo::esconde_senha(*ui_->txtSenha);
   ui_->txtSec->setFocus();
   carrega();
+  carregado_ = Conteudo_digitado(*this);
   connect(ui_->Command1, &QPushButton::clicked, this, &frmConfigura::Command1_click);
+  Ao_escapar(*this, [this] { escapa(); });
 }
 
 frmConfigura::~frmConfigura() = default;
@@ -78,9 +81,9 @@ void frmConfigura::Command1_click() {
   close();
 }
 
-void frmConfigura::keyPressEvent(QKeyEvent* evento) {
-  if (evento->key() != Qt::Key_Escape) {
-    QDialog::keyPressEvent(evento);
+void frmConfigura::escapa() {
+  if (Conteudo_digitado(*this) == carregado_ || Confirma_abandono()) {
+    close();
   }
 }
 

@@ -1,7 +1,11 @@
 // The names that stand on printed documents, the print options, and the remote server's fields.
+//
+// There is no cancel button: closing the window by its frame discards what was changed, Escape asks
+// first.
 #pragma once
 
 #include <QDialog>
+#include <QString>
 #include <memory>
 
 class QLineEdit;
@@ -20,15 +24,13 @@ class frmConfigura : public QDialog {
   frmConfigura();
   ~frmConfigura() override;
 
- protected:
-  // There is no cancel button, and Escape is none: it would lose what was typed.
-  void keyPressEvent(QKeyEvent* evento) override;
-
  private:
   void carrega();
   void Command1_click();
+  void escapa();
 
   std::unique_ptr<Ui::frmConfigura> ui_;
+  QString carregado_;  // the contents when loaded
 };
 
 // Shows the screen. An error of its loading is told in the box of an untrapped error, and the

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 
+#include "foundation/Escape.h"
 #include "foundation/Estilo.h"
 #include "foundation/Ini.h"
 #include "foundation/UmaJanela.h"
@@ -32,21 +33,24 @@ void procura(QLineEdit& caixa, const QString& filtro) {
 
 }  // namespace
 
-frmParametros::frmParametros() : ui_(std::make_unique<Ui::frmParametros>()) {
+frmParametros::frmParametros()
+    : ui_(std::make_unique<Ui::frmParametros>()),
+      fechamento_(*this, [this] { return Conteudo_digitado(*this) != carregado_; }) {
   ui_->setupUi(this);
   Estilo::mostra_marca(*ui_->lblMarca);
   Estilo::destaca(*ui_->cmdGravar);
-  Estilo::botao_de_escape(*ui_->cmdCancelar);
   ui_->Text1->setText(le(QStringLiteral("caminho")));
   ui_->Text2->setText(le(QStringLiteral("caminho2")));
   ui_->Text3->setText(le(QStringLiteral("number")));
+  carregado_ = Conteudo_digitado(*this);
   connect(ui_->cmdCaminho, &QPushButton::clicked, this,
           [this] { procura(*ui_->Text1, kFiltroBanco); });
   connect(ui_->Command1, &QPushButton::clicked, this,
           [this] { procura(*ui_->Text2, kFiltroBanco); });
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { procura(*ui_->Text3, kFiltroIni); });
   connect(ui_->cmdGravar, &QPushButton::clicked, this, &frmParametros::cmdGravar_click);
-  connect(ui_->cmdCancelar, &QPushButton::clicked, this, &frmParametros::close);
+  connect(ui_->cmdCancelar, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
+  Ao_escapar(*this, [this] { close(); });
 }
 
 frmParametros::~frmParametros() = default;
@@ -56,7 +60,7 @@ void frmParametros::cmdGravar_click() {
   grava(QStringLiteral("caminho"), *ui_->Text1);
   grava(QStringLiteral("caminho2"), *ui_->Text2);
   grava(QStringLiteral("number"), *ui_->Text3);
-  close();
+  fechamento_.fecha();
 }
 
 void mostra_frmParametros() {

@@ -37,21 +37,37 @@ ItemCadastro::ItemCadastro(ListView& lista, const QString& texto_excluir,
   });
 }
 
+void ItemCadastro::relista(const std::function<void()>& preenche) {
+  preenche();
+  if (linha() >= 0) {
+    lista_.selectRow(linha());
+  } else {
+    tag_.clear();
+  }
+}
+
+int ItemCadastro::linha() const {
+  int n = tag_.isEmpty() ? -1 : lista_.count() - 1;
+  while (n >= 0 && lista_.text(n) != tag_) {
+    --n;
+  }
+  return n;
+}
+
 bool ItemCadastro::tem_item() const {
-  if (tag_.isEmpty()) {
+  const bool tem = linha() >= 0;
+  if (!tem) {
     Dialogs::stop(QStringLiteral("Informe um item !!!"), kAviso);
   }
-  return !tag_.isEmpty();
+  return tem;
 }
 
 QString ItemCadastro::coluna(int n) const {
-  const int linha = lista_.selectedRow();
-  return linha < 0 ? QString() : lista_.subItem(linha, n);
+  return linha() < 0 ? QString() : lista_.subItem(linha(), n);
 }
 
 bool ItemCadastro::marcada() const {
-  const int linha = lista_.selectedRow();
-  return linha >= 0 && lista_.isChecked(linha);
+  return linha() >= 0 && lista_.isChecked(linha());
 }
 
 void ItemCadastro::clica(int linha) {
@@ -65,7 +81,7 @@ void ItemCadastro::exclui_item() {
     return;
   }
   exclui_(Convert::toI16(tag_));
-  recarrega_();
+  relista(recarrega_);
 }
 
 // The menu key stands for a click on the current row, which then shows as selected.

@@ -1,5 +1,6 @@
 // The row of a list that the operator last clicked, and what can be done with it: the pop-up menu
-// "Excluir item" and the questions before a command.
+// "Excluir item" and the questions before a command. Key and data that it gives are always of one
+// row.
 #pragma once
 
 #include <QObject>
@@ -22,14 +23,18 @@ class ItemCadastro : public QObject {
   ItemCadastro(ListView& lista, const QString& texto_excluir,
                std::function<void(std::int16_t chave)> exclui, std::function<void()> recarrega);
 
-  // The key text of the row last clicked; nothing clears it, so it outlives its row.
+  // Fills the list by `preenche`. The row of the remembered key is current again afterwards; the
+  // key of a row that is gone is forgotten.
+  void relista(const std::function<void()>& preenche);
+
+  // The key text of the row last clicked.
   const QString& Tag() const { return tag_; }
-  // Whether a row was clicked; otherwise the operator is told.
+  // Whether a row was clicked and is still in the list; otherwise the operator is told.
   bool tem_item() const;
 
-  // A sub-item of the list's current row; empty without one.
+  // A sub-item of the row of Tag(); empty without one.
   QString coluna(int n) const;
-  // The check box of the list's current row.
+  // The check box of that row.
   bool marcada() const;
 
  signals:
@@ -37,6 +42,8 @@ class ItemCadastro : public QObject {
   void ativado();
 
  private:
+  // The row of the remembered key, -1 for none.
+  int linha() const;
   void clica(int linha);
   void exclui_item();
   void mostra_menu(int linha, const QPoint& posicao);

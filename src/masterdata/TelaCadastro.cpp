@@ -67,9 +67,11 @@ TelaCadastro::TelaCadastro(QWidget& janela, QWidget& campos, QLineEdit& ordem,
                            const AparenciaCadastro& aparencia, PassosCadastro passos)
     : QObject(&janela),
       janela_(janela),
+      campos_(campos),
       ordem_(ordem),
       passos_(std::move(passos)),
-      obrigatorios_(aparencia.obrigatorios) {
+      obrigatorios_(aparencia.obrigatorios),
+      fechamento_(janela, [this] { return tem_digitacao(); }) {
   abas_ = new TwoPageTab(&janela);
   abas_->setObjectName(QStringLiteral("SSTab1"));
   // The other tab is always disabled: there is nothing to do on the tabs themselves.
@@ -114,9 +116,8 @@ QWidget* TelaCadastro::monta_consulta(const AparenciaCadastro& aparencia) {
   colunas->addWidget(monta_lista(pagina, aparencia), 1);
   incluir_ = novo_botao(pagina, aparencia.incluir);
   alterar_ = novo_botao(pagina, aparencia.alterar);
-  QHBoxLayout* const comandos = linha_de_botoes({incluir_, alterar_});
-  comandos->setObjectName(QStringLiteral("comandos_consulta"));
-  colunas->addLayout(comandos);
+  comandos_ = linha_de_botoes({incluir_, alterar_});
+  colunas->addLayout(comandos_);
   return pagina;
 }
 
@@ -162,26 +163,28 @@ void TelaCadastro::liga() {
   connect(alterar_, &QPushButton::clicked, this, altera);
   connect(cancelar_, &QPushButton::clicked, this, &TelaCadastro::cancela);
   connect(gravar_, &QPushButton::clicked, this, Evento([this] { grava(); }));
-  connect(sair_, &QPushButton::clicked, &janela_, &QWidget::close);
-  Ao_escapar(janela_, [this] { escapa(); });
+  connect(sair_, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
+  Ao_escapar(janela_, Evento([this] { escapa(); }));
 }
 
 void TelaCadastro::pesquisa() {
   passos_.procura(pesquisa_->text());
-  passos_.lista(*lista_, kListaProcurados);
+  relista(kListaProcurados);
+}
+
+void TelaCadastro::relista(std::int16_t modo) {
+  item_->relista([this, modo] { passos_.lista(*lista_, modo); });
 }
 
 QPushButton& TelaCadastro::acrescenta_botao(const BotaoCadastro& botao) {
   QPushButton* const novo = novo_botao(alterar_->parentWidget(), botao);
-  alterar_->parentWidget()
-      ->findChild<QHBoxLayout*>(QStringLiteral("comandos_consulta"))
-      ->addWidget(novo);
+  comandos_->addWidget(novo);
   QWidget::setTabOrder(alterar_, novo);
   return *novo;
 }
 
 void TelaCadastro::carrega() {
-  passos_.lista(*lista_, kListaTodos);
+  relista(kListaTodos);
   abas_->setTabEnabled(kCadastro, false);
   abas_->setCurrent(kConsulta);
   pesquisa_->setFocus();
@@ -193,7 +196,7 @@ void TelaCadastro::comeca_inclusao(const std::function<void()>& preenche) {
   ordem_.setText(kNumeracaoAutomatica);
   preenche();
   Operacao = kInclusao;
-  Troca_aba(*abas_);
+  vai_editar();
 }
 
 void TelaCadastro::comeca_alteracao() {
@@ -203,7 +206,16 @@ void TelaCadastro::comeca_alteracao() {
   ordem_.setText(item_->Tag());
   passos_.altera();
   Operacao = kAlteracao;
+  vai_editar();
+}
+
+void TelaCadastro::vai_editar() {
+  carregado_ = Conteudo_digitado(campos_);
   Troca_aba(*abas_);
+}
+
+bool TelaCadastro::tem_digitacao() const {
+  return abas_->current() == kCadastro && Conteudo_digitado(campos_) != carregado_;
 }
 
 bool TelaCadastro::Salvar() {
@@ -223,7 +235,7 @@ bool TelaCadastro::Salvar() {
 
 void TelaCadastro::grava() {
   if (Salvar()) {
-    passos_.lista(*lista_, kListaTodos);
+    relista(kListaTodos);
     lista_->setFocus();
   }
 }
@@ -233,9 +245,11 @@ void TelaCadastro::cancela() {
   lista_->setFocus();
 }
 
-// Never more than one step back: what was typed stays in the fields.
+// Never more than one step back.
 void TelaCadastro::escapa() {
-  (abas_->current() == kCadastro ? cancelar_ : sair_)->click();
+  if (fechamento_.permite()) {
+    (abas_->current() == kCadastro ? cancelar_ : sair_)->click();
+  }
 }
 
 }  // namespace quartela

@@ -3,6 +3,8 @@
 // questions and words that go with them. It is written once; a screen composes it and states its
 // own fields, columns and steps.
 //
+// "Sair" and "Cancel" give up what was typed; before anything else does, the operator is asked.
+//
 // The window's own form holds the frame of its fields; TelaCadastro puts that frame on the page to
 // edit and builds the rest around it.
 #pragma once
@@ -13,6 +15,9 @@
 #include <functional>
 #include <vector>
 
+#include "foundation/Fechamento.h"
+
+class QHBoxLayout;
 class QLineEdit;
 class QPushButton;
 class QWidget;
@@ -99,16 +104,22 @@ class TelaCadastro : public QObject {
   QWidget* monta_cadastro(QWidget& campos, const AparenciaCadastro& aparencia);
   QWidget* monta_rodape(const AparenciaCadastro& aparencia);
   void liga();
+  void relista(std::int16_t modo);
   void pesquisa();
   void grava();
   void cancela();
   void escapa();
+  bool tem_digitacao() const;
+  void vai_editar();
 
   QWidget& janela_;
+  QWidget& campos_;
   QLineEdit& ordem_;
   PassosCadastro passos_;
   QString obrigatorios_;
+  QString carregado_;  // what the page to edit held when it was opened
   TwoPageTab* abas_ = nullptr;
+  QHBoxLayout* comandos_ = nullptr;
   ListView* lista_ = nullptr;
   ItemCadastro* item_ = nullptr;
   QLineEdit* pesquisa_ = nullptr;
@@ -118,6 +129,7 @@ class TelaCadastro : public QObject {
   QPushButton* gravar_ = nullptr;
   QPushButton* cancelar_ = nullptr;
   QPushButton* sair_ = nullptr;
+  Fechamento fechamento_;
 };
 
 }  // namespace quartela

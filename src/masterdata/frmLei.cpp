@@ -27,7 +27,10 @@ const QString kAviso = QStringLiteral("Aviso");
 
 }  // namespace
 
-frmLei::frmLei(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmLei>()) {
+frmLei::frmLei(QWidget* parent)
+    : QDialog(parent),
+      ui_(std::make_unique<Ui::frmLei>()),
+      fechamento_(*this, [this] { return tem_digitacao(); }) {
   ui_->setupUi(this);
   Estilo::destaca(*ui_->Command3);
   // A term such as 3 must not become the 30 of the list by itself.
@@ -113,6 +116,7 @@ void frmLei::inclui() {
   ui_->Text1->setText(kNumeracaoAutomatica);
   edita(true);
   ui_->Text1->setEnabled(true);
+  carregado_ = Conteudo_digitado(*ui_->Frame1);
   ui_->Combo1->setFocus();
 }
 
@@ -132,6 +136,7 @@ void frmLei::altera() {
   ui_->Check1->setChecked(item_->marcada());
   edita(true);
   ui_->Text1->setEnabled(false);
+  carregado_ = Conteudo_digitado(*ui_->Frame1);
   ui_->Combo1->setFocus();
 }
 
@@ -181,7 +186,7 @@ void frmLei::grava() {
   }
   salva();
   edita(false);
-  cInciso::compartilhada().Lista_Inciso(*ui_->ListView1);
+  item_->relista([this] { cInciso::compartilhada().Lista_Inciso(*ui_->ListView1); });
   ui_->ListView1->setFocus();
 }
 
@@ -197,11 +202,14 @@ void frmLei::salva() {
   registro.Save_inciso(ui_->Text1->isEnabled() ? kInclusao : kAlteracao);
 }
 
-// "Cancel" empties the fields here: Escape must not do that to what was typed, so it only closes a
-// window in which nothing is being edited.
+bool frmLei::tem_digitacao() const {
+  return ui_->Frame1->isEnabled() && Conteudo_digitado(*ui_->Frame1) != carregado_;
+}
+
+// Never more than one step back.
 void frmLei::escapa() {
-  if (!ui_->Frame1->isEnabled()) {
-    ui_->Command2->click();
+  if (fechamento_.permite()) {
+    (ui_->Frame1->isEnabled() ? ui_->Command1_0 : ui_->Command2)->click();
   }
 }
 

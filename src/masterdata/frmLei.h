@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <memory>
 
+#include "foundation/Fechamento.h"
+
 namespace quartela {
 
 namespace Ui {
@@ -33,6 +35,7 @@ class frmLei : public QDialog {
   void cancela();
   void grava();
   void escapa();
+  bool tem_digitacao() const;
 
   void esvazia();
   void edita(bool editando);
@@ -41,7 +44,9 @@ class frmLei : public QDialog {
 
   std::unique_ptr<Ui::frmLei> ui_;
   ItemCadastro* item_ = nullptr;
-  QString tipo_;  // the name that belongs to the key shown
+  QString carregado_;  // what the fields held when their editing began
+  QString tipo_;       // the name that belongs to the key shown
+  Fechamento fechamento_;
 };
 
 }  // namespace quartela

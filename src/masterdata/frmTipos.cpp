@@ -94,6 +94,9 @@ void frmTipos::carrega_campos() {
   Carrega_Controles(*ui_->cmbOrgao, QStringLiteral("Orgao"), QStringLiteral("ORGAO"),
                     QStringLiteral("IDORGAO"), kTodos);
   cTipos& registro = cTipos::compartilhada();
+  // A row that another program has deleted meanwhile must not show the values of the one before:
+  // error 9 then, as for a secretariat that is gone.
+  registro = cTipos();
   registro.Envia_dados(Convert::toI16(tela_->item().Tag()));
   mostra(*ui_->txttipo, registro.Tipo);
   ui_->cmbOrgao->selectByData(registro.Orgao);

@@ -2,9 +2,7 @@
 #pragma once
 
 #include <QList>
-#include <QObject>
 #include <QString>
-#include <functional>
 #include <optional>
 
 #include "platform/values/RuntimeError.h"
@@ -32,36 +30,6 @@ void Escurece_inativos(QWidget& parte);
 
 // Each word with a capital at its head and small letters behind it.
 QString Nome_proprio(const QString& texto);
-
-// What the operator can type or tick in that field, as a text to compare; an amount is the same
-// with and without its thousands dots.
-QString Conteudo_campo(const QWidget& campo);
-
-// All that the operator can type or tick inside `tela`, as one text, to tell whether it has
-// changed.
-QString Conteudo_digitado(const QWidget& tela);
-
-// Asks whether what was typed and not saved may be given up.
-bool Confirma_abandono();
-
-// Lets a window with something typed close only after asking, whether a button, Escape, its frame,
-// another window or the end of the program closes it. A command that does more than close asks
-// permite() first and closes by fecha(), which asks nothing. Must not outlive the window.
-class Fechamento : public QObject {
- public:
-  Fechamento(QWidget& janela, std::function<bool()> tem_digitacao);
-
-  // Whether nothing is typed, or the operator gives it up.
-  bool permite() const { return !tem_digitacao_() || Confirma_abandono(); }
-  void fecha();
-
-  bool eventFilter(QObject* objeto, QEvent* evento) override;
-
- private:
-  QWidget& janela_;
-  std::function<bool()> tem_digitacao_;
-  bool decidido_ = false;
-};
 
 // Dates are typed from 1997 to 2100; what the database holds is shown all the same.
 void Mostra_data(DatePicker& data, const Value& valor);

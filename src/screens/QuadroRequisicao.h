@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+#include "foundation/Fechamento.h"
 #include "screens/Campos.h"
 
 namespace quartela {

@@ -11,6 +11,7 @@
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
+#include "foundation/Fechamento.h"
 #include "foundation/Rotinas.h"
 #include "foundation/Tamanho.h"
 #include "masterdata/cTipos.h"

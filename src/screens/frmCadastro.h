@@ -12,8 +12,8 @@
 #include <array>
 #include <memory>
 
+#include "foundation/Fechamento.h"
 #include "platform/values/Money.h"
-#include "screens/Campos.h"
 
 class QPushButton;
 

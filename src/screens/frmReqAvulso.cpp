@@ -8,7 +8,6 @@
 #include "records/Impressao.h"
 #include "records/Principal.h"
 #include "records/cReqAvulso.h"
-#include "screens/Campos.h"
 #include "ui_QuadroRequisicao.h"
 #include "ui_frmReqAvulso.h"
 

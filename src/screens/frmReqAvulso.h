@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "screens/Campos.h"
+#include "foundation/Fechamento.h"
 
 namespace quartela {
 

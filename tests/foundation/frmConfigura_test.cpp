@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
+#include <QWindow>
 
 #include "foundation/Estilo.h"
 #include "foundation/Ini.h"
@@ -15,6 +16,7 @@
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowChecks.h"
+#include "tests/support/office/Boxes.h"
 
 using namespace quartela;  // NOLINT(google-build-using-namespace)
 using test::FreshFolder;
@@ -208,19 +210,32 @@ class frmConfigura_test : public QObject {
 
   void theFrameDiscards() {
     edit("txtSec")->setText("outra");
-    window_->close();
+    window_->windowHandle()->close();
     QVERIFY(!UmaJanela<frmConfigura>::aberta());
     QCOMPARE(folder_->read("Config.ini"), kConfig);
     open();
     QCOMPARE(edit("txtSec")->text(), "Ana");
   }
 
-  void escapeLosesNothing() {
-    edit("txtSec")->setText("outra");
+  void escapeAsksBeforeItDiscards() {
+    QTest::keyClick(check("Check1"), Qt::Key_Space);
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::boxes::askAbandon(), Button::No);
     QTest::keyClick(edit("txtSec"), Qt::Key_Escape);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(UmaJanela<frmConfigura>::aberta(), window_);
     QVERIFY(window_->isVisible());
-    QCOMPARE(edit("txtSec")->text(), "outra");
+    QVERIFY(!check("Check1")->isChecked());
+    dialogs.expectBox(test::boxes::askAbandon(), Button::Yes);
+    QTest::keyClick(edit("txtSec"), Qt::Key_Escape);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(!UmaJanela<frmConfigura>::aberta());
+    QCOMPARE(folder_->read("Config.ini"), kConfig);
+  }
+
+  void escapeAsksNothingWhereNothingWasTyped() {
+    QTest::keyClick(edit("txtSec"), Qt::Key_Escape);
+    QVERIFY(!UmaJanela<frmConfigura>::aberta());
   }
 
  private:

@@ -3,14 +3,17 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QWindow>
 
 #include "foundation/Estilo.h"
 #include "foundation/Ini.h"
 #include "foundation/UmaJanela.h"
+#include "platform/controls/OpenForms.h"
 #include "tests/support/FreshFolder.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowChecks.h"
+#include "tests/support/office/Boxes.h"
 
 using namespace quartela;  // NOLINT(google-build-using-namespace)
 using test::FreshFolder;
@@ -37,8 +40,8 @@ class frmParametros_test : public QObject {
     open();
   }
   void cleanup() {
-    if (frmParametros* const window = UmaJanela<frmParametros>::aberta()) {
-      window->close();
+    if (UmaJanela<frmParametros>::aberta()) {
+      click("cmdCancelar");
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     folder_.reset();
@@ -156,28 +159,46 @@ class frmParametros_test : public QObject {
 
   void leavingWithoutSavingWritesNothing_data() {
     QTest::addColumn<int>("way");
-    QTest::newRow("Cancelar") << 0;
-    QTest::newRow("Escape") << 1;
-    QTest::newRow("frame") << 2;
+    QTest::addColumn<bool>("asks");
+    QTest::newRow("Cancelar") << 0 << false;
+    QTest::newRow("Escape") << 1 << true;
+    QTest::newRow("frame") << 2 << true;
+    QTest::newRow("end of the program") << 3 << true;
   }
   void leavingWithoutSavingWritesNothing() {
     QFETCH(const int, way);
+    QFETCH(const bool, asks);
     const QByteArray before = folder_->read("Config.ini");
-    edit("Text1")->setText("outro");
-    switch (way) {
-      case 0:
-        click("cmdCancelar");
-        break;
-      case 1:
-        QTest::keyClick(edit("Text1"), Qt::Key_Escape);
-        break;
-      default:
-        window_->close();
+    QTest::keyClick(edit("Text1"), Qt::Key_End);
+    QTest::keyClicks(edit("Text1"), "x");
+    ScriptedDialogs dialogs;
+    if (asks) {
+      dialogs.expectBox(test::boxes::askAbandon(), Button::No);
+      leave(way);
+      QVERIFY2(dialogs.satisfied(), dialogs.report());
+      QCOMPARE(UmaJanela<frmParametros>::aberta(), window_);
+      QVERIFY(window_->isVisible());
+      QCOMPARE(edit("Text1")->text(), "C:\\dados\\um.mdbx");
+      dialogs.expectBox(test::boxes::askAbandon(), Button::Yes);
     }
+    leave(way);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
     QVERIFY(!UmaJanela<frmParametros>::aberta());
     QCOMPARE(folder_->read("Config.ini"), before);
     open();
     QCOMPARE(edit("Text1")->text(), "C:\\dados\\um.mdb");
+  }
+
+  void leavingAsksNothingWhereNothingWasTyped_data() {
+    QTest::addColumn<int>("way");
+    for (int way = 0; way < 4; ++way) {
+      QTest::addRow("way %d", way) << way;
+    }
+  }
+  void leavingAsksNothingWhereNothingWasTyped() {
+    QFETCH(const int, way);
+    leave(way);
+    QVERIFY(!UmaJanela<frmParametros>::aberta());
   }
 
   void shownAgainItIsTheSameWindow() {
@@ -203,6 +224,21 @@ class frmParametros_test : public QObject {
   QLineEdit* edit(const QString& name) const { return window_->findChild<QLineEdit*>(name); }
   QPushButton* button(const QString& name) const { return window_->findChild<QPushButton*>(name); }
   void click(const QString& name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+  void leave(int way) const {
+    switch (way) {
+      case 0:
+        click("cmdCancelar");
+        break;
+      case 1:
+        QTest::keyClick(edit("Text1"), Qt::Key_Escape);
+        break;
+      case 2:
+        window_->windowHandle()->close();
+        break;
+      default:
+        OpenForms::unload(window_);
+    }
+  }
   QStringList texts() const {
     return {edit("Text1")->text(), edit("Text2")->text(), edit("Text3")->text()};
   }

@@ -3,7 +3,6 @@
 
 #include "platform/values/Clock.h"
 #include "tests/masterdata/Tela.h"
-#include "tests/support/WindowChecks.h"
 #include "tests/support/office/OfficeMain.h"
 #include "tests/support/office/Samples.h"
 
@@ -30,48 +29,6 @@ class frmDotacaoTest : public QObject {
     tela_.reset();
     window_.reset();
     office_.reset();
-  }
-
-  void opensOnTheFullList() {
-    QCOMPARE(window_->windowTitle(), QStringLiteral("Cadastro de Dotações"));
-    QCOMPARE(tela_->at<QLabel>("Label_0").text(), QStringLiteral("Pesquisar por Dotação:"));
-    QCOMPARE(tela_->row(tela_->rowOf(QStringLiteral("0001"))),
-             QStringList({"0001", "002 - Viagem", "002 - Educação", "125", "2013", "Passagens"}));
-    QCOMPARE(tela_->list().count(), 2);
-    QStringList heads;
-    for (int n = 0; n < tela_->list().columnCount(); ++n) {
-      heads << tela_->list().model()->headerData(n, Qt::Horizontal).toString();
-    }
-    QCOMPARE(heads, QStringList({"ORDEM", "ADIANTAMENTO", "Orgão", "DOTAÇÃO", "ANO", "DESCRIÇÃO"}));
-  }
-
-  void aWholeCycle() {
-    tela_->press("Command1_3");
-    QCOMPARE(tela_->focus(), QStringLiteral("cmbSetor"));
-    QCOMPARE(tela_->text("txtordem"), QStringLiteral("Aut.Num."));
-    QCOMPARE(tela_->text("txtano"), QStringLiteral("2014"));
-    tela_->pick("cmbSetor", QStringLiteral("Educação"));
-    tela_->pick("cmbTipo", QStringLiteral("Adiante"));
-    tela_->type("txtdotacao", QStringLiteral("1a2b345"));
-    QCOMPARE(tela_->text("txtdotacao"), QStringLiteral("1234"));
-    tela_->type("txtdescricao", QStringLiteral(" Copo d'água "));
-    save(boxes::askInclusion(), boxes::saved());
-    QCOMPARE(stored(), QStringLiteral("4|2|1234|2014|Copo d'água"));
-    tela_->click(QStringLiteral("0003"));
-    tela_->press("Command1_1");
-    QCOMPARE(tela_->focus(), QStringLiteral("cmbSetor"));
-    QCOMPARE(fields(), QStringList({"0003", "Educação", "Adiante", "1234", "2014", "Copo d'água"}));
-    tela_->type("txtano", QStringLiteral("1999"));
-    tela_->pick("cmbTipo", QStringLiteral("Viagem"));
-    save(boxes::askAlteration(), boxes::altered());
-    QCOMPARE(stored(), QStringLiteral("2|2|1234|1999|Copo d'água"));
-    tela_->click(QStringLiteral("0003"));
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::askDelete(QStringLiteral("0003")), Button::Yes);
-    dialogs.expectBox(boxes::deleted());
-    tela_->excludeByMenu();
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(tela_->list().count(), 2);
   }
 
   void onlyTheActiveTypesOfTheSecretariatCanBePicked() {
@@ -212,27 +169,11 @@ class frmDotacaoTest : public QObject {
     QCOMPARE(tela_->text("txtdescricao").size(), 50);
     tela_->type("txtano", QStringLiteral("201456"));
     QCOMPARE(tela_->text("txtano"), QStringLiteral("2014"));
+    tela_->type("txtdotacao", QStringLiteral("1a2b345"));
+    QCOMPARE(tela_->text("txtdotacao"), QStringLiteral("1234"));
     tela_->type("txtdotacao", QStringLiteral("12"));
     QTest::keyClick(&tela_->at<QLineEdit>("txtdotacao"), Qt::Key_Backspace);
     QCOMPARE(tela_->text("txtdotacao"), QStringLiteral("1"));
-  }
-
-  void nothingClickedYet() {
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::mustPick());
-    tela_->press("Command1_1");
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
-  }
-
-  void keysAndNames() {
-    QCOMPARE(test::mnemonicClashes(*window_), QString());
-    QCOMPARE(test::unnamedControls(*window_), QString());
-    QCOMPARE(test::clippedTexts(*window_), QString());
-    tela_->press("Command1_3");
-    QCOMPARE(test::clippedTexts(*window_), QString());
-    QCOMPARE(test::tabRound(*window_),
-             QStringList({"cmbSetor", "cmbTipo", "txtdotacao", "txtano", "txtdescricao", "Command2",
-                          "Command1_0", "Command3"}));
   }
 
  private:

@@ -31,60 +31,6 @@ class frmExecutorTest : public QObject {
     office_.reset();
   }
 
-  void opensOnTheFullList() {
-    QCOMPARE(window_->windowTitle(), QStringLiteral("Ordenador de Despesas"));
-    QCOMPARE(tela_->row(tela_->rowOf(QStringLiteral("0001"))),
-             QStringList(
-                 {"0001", "002 - Educação", "Ordenador", "12.345", "529.982.247-25", "Diretor"}));
-    QCOMPARE(tela_->row(tela_->rowOf(QStringLiteral("0002"))),
-             QStringList({"0002", "001 - Saúde", "Beatriz", "", "", ""}));
-    QVERIFY(tela_->list().isChecked(tela_->rowOf(QStringLiteral("0001"))));
-    QVERIFY(!tela_->list().isChecked(tela_->rowOf(QStringLiteral("0002"))));
-    QStringList heads;
-    QList<int> widths;
-    for (int n = 0; n < tela_->list().columnCount(); ++n) {
-      heads << tela_->list().model()->headerData(n, Qt::Horizontal).toString();
-      widths << tela_->list().leastWidth(n);
-    }
-    QCOMPARE(heads, QStringList({"ORDEM", "ORGÃO", "NOME", "RG", "CPF", "FUNÇÃO"}));
-    QCOMPARE(widths, QList<int>({94, 212, 235, 176, 176, 235}));
-  }
-
-  void aWholeCycle() {
-    tela_->press("Command1_3");
-    QCOMPARE(tela_->focus(), QStringLiteral("cmbOrgao"));
-    QVERIFY(!tela_->ticked("chkAtivo"));
-    tela_->pick("cmbOrgao", QStringLiteral("Saúde"));
-    tela_->type("txtnome", QStringLiteral(" Maria D'Ávila "));
-    tela_->type("txtrg", QStringLiteral(" 98 "));
-    tela_->type("txtcpf", QStringLiteral("12345678909"));
-    tela_->type("txtfuncao", QStringLiteral(" Chefe "));
-    tela_->tick("chkAtivo");
-    save(boxes::askInclusion(), boxes::saved());
-    QCOMPARE(stored("3"), QStringLiteral("1|Maria D'Ávila|98|123.456.789-09|Chefe|1"));
-    tela_->click(QStringLiteral("0003"));
-    tela_->press("Command1_1");
-    QCOMPARE(tela_->focus(), QStringLiteral("txtnome"));
-    QCOMPARE(tela_->text("txtordem"), QStringLiteral("0003"));
-    QCOMPARE(tela_->text("cmbOrgao"), QStringLiteral("Saúde"));
-    QCOMPARE(tela_->text("txtnome"), QStringLiteral("Maria D'Ávila"));
-    QCOMPARE(tela_->text("txtrg"), QStringLiteral("98"));
-    QCOMPARE(tela_->text("txtcpf"), QStringLiteral("123.456.789-09"));
-    QCOMPARE(tela_->text("txtfuncao"), QStringLiteral("Chefe"));
-    QVERIFY(tela_->ticked("chkAtivo"));
-    tela_->pick("cmbOrgao", QStringLiteral("Educação"));
-    tela_->tick("chkAtivo");
-    save(boxes::askAlteration(), boxes::altered());
-    QCOMPARE(stored("3"), QStringLiteral("2|Maria D'Ávila|98|123.456.789-09|Chefe|0"));
-    tela_->click(QStringLiteral("0003"));
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::askDelete(QStringLiteral("0003")), Button::Yes);
-    dialogs.expectBox(boxes::deleted());
-    tela_->excludeByMenu();
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(tela_->list().count(), 2);
-  }
-
   void anUnfilledNumberIsStoredAsItStands() {
     tela_->press("Command1_3");
     tela_->pick("cmbOrgao", QStringLiteral("Saúde"));
@@ -142,12 +88,6 @@ class frmExecutorTest : public QObject {
     QVERIFY(!tela_->editing());
   }
 
-  void theSearch() {
-    tela_->type("txtpesquisa", QStringLiteral("BEA"));
-    tela_->press("cmdProcura");
-    QCOMPARE(tela_->names(), QStringList{"001 - Saúde"});
-  }
-
   void anApostropheInTheSearchIsTold() {
     tela_->type("txtpesquisa", QStringLiteral("D'Ávila"));
     test::ScriptedDialogs dialogs;
@@ -159,17 +99,6 @@ class frmExecutorTest : public QObject {
     tela_->type("txtpesquisa", QString());
     tela_->press("cmdProcura");
     QVERIFY(!QApplication::overrideCursor());
-    QCOMPARE(tela_->list().count(), 2);
-  }
-
-  void aPersonWithAProcessStays() {
-    office_->run("INSERT INTO Requisicao(SEQ, ORGAO, TOMADOR) VALUES (114, 1, 1)");
-    tela_->click(QStringLiteral("0001"));
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::askDelete(QStringLiteral("0001")), Button::Yes);
-    dialogs.expectBox(boxes::saveFailure(ErrorNumber::DependantsExist, test::kAnything));
-    QTest::keyClick(&tela_->list(), Qt::Key_Delete);
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(tela_->list().count(), 2);
   }
 
@@ -224,17 +153,6 @@ class frmExecutorTest : public QObject {
     record.CarregaList();
   }
 
-  void keysAndNames() {
-    QCOMPARE(test::mnemonicClashes(*window_), QString());
-    QCOMPARE(test::unnamedControls(*window_), QString());
-    QCOMPARE(test::clippedTexts(*window_), QString());
-    tela_->press("Command1_3");
-    QCOMPARE(test::clippedTexts(*window_), QString());
-    QCOMPARE(test::tabRound(*window_),
-             QStringList({"cmbOrgao", "txtnome", "txtrg", "txtcpf", "txtfuncao", "chkAtivo",
-                          "Command2", "Command1_0", "Command3"}));
-  }
-
  private:
   void open() {
     tela_.reset();
@@ -248,13 +166,6 @@ class frmExecutorTest : public QObject {
     tela_->press("Command2");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QVERIFY(!tela_->editing());
-  }
-  QString stored(const char* key) const {
-    const QByteArray sql = QByteArray(
-                               "SELECT IDORGAO || '|' || NOME || '|' || RG || '|' || CPF || '|' || "
-                               "FUNCAO || '|' || ATIVO FROM Executor WHERE ORDEM = ") +
-                           key;
-    return office_->ask(sql.constData());
   }
 
   std::unique_ptr<test::Office> office_;

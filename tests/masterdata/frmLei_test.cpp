@@ -6,7 +6,6 @@
 #include "foundation/Banco.h"
 #include "masterdata/cInciso.h"
 #include "tests/masterdata/Tela.h"
-#include "tests/support/WindowChecks.h"
 #include "tests/support/office/OfficeMain.h"
 #include "tests/support/office/Samples.h"
 
@@ -35,31 +34,14 @@ class frmLeiTest : public QObject {
     office_.reset();
   }
 
-  void opensOnTheFullList() {
-    QCOMPARE(window_->windowTitle(), QStringLiteral("Inciso"));
-    QCOMPARE(tela_->row(0),
-             QStringList({"0001", "001 - Miúdas", "Pronto pagamento", "Consumo", "5"}));
-    QVERIFY(tela_->list().isChecked(0));
-    QVERIFY(!tela_->list().isChecked(1));
-    QStringList heads;
-    QList<int> widths;
-    for (int n = 0; n < tela_->list().columnCount(); ++n) {
-      heads << tela_->list().model()->headerData(n, Qt::Horizontal).toString();
-      widths << tela_->list().leastWidth(n);
-    }
-    QCOMPARE(heads, QStringList({"SEQ", "TIPO", "DESCRIÇÃO", "CATEGORIA", "DIAS"}));
-    QCOMPARE(widths, QList<int>({94, 176, 647, 169, 94}));
-    QStringList words;
-    for (const char* button : {"Command1_3", "Command3", "Command1_1", "Command1_0", "Command2"}) {
-      words << tela_->at<QPushButton>(button).text().remove(QLatin1Char('&'));
-    }
-    QCOMPARE(words, QStringList({"Incluir", "Gravar", "Alterar", "Cancel", "OK"}));
+  void theTermsOfferedAndTheKeyThatIsNotTyped() {
     QStringList terms;
     for (int n = 0; n < tela_->at<ComboBox>("Combo4").count(); ++n) {
       terms << tela_->at<ComboBox>("Combo4").itemText(n);
     }
     QCOMPARE(terms, QStringList({"05", "15", "30", "60", "90"}));
     QVERIFY(!tela_->at<QLineEdit>("Text3").isEnabledTo(&tela_->at<QWidget>("Frame1")));
+    QVERIFY(!tela_->list().isChecked(1));
   }
 
   // Frame1, Text1, Command3, Command1_3, Command1_1, Command1_0.
@@ -97,42 +79,6 @@ class frmLeiTest : public QObject {
       tela_->press(command.constData());
     }
     QTEST(enabled(), "enabled");
-  }
-
-  void aWholeCycle() {
-    tela_->press("Command1_3");
-    QCOMPARE(tela_->text("Text1"), QStringLiteral("Aut.Num."));
-    QCOMPARE(tela_->focus(), QStringLiteral("Combo1"));
-    fill();
-    QCOMPARE(tela_->text("Text3"), QStringLiteral("001"));
-    tela_->type("Text4", QStringLiteral(" Serviço "));
-    tela_->tick("Check1");
-    save(boxes::askInclusion(), boxes::saved());
-    QCOMPARE(stored(), QStringLiteral("1|Copo d'água|Serviço|15|1"));
-    QCOMPARE(tela_->list().count(), 3);
-    QCOMPARE(tela_->focus(), QStringLiteral("ListView1"));
-    tela_->click(QStringLiteral("0003"));
-    tela_->press("Command1_1");
-    tela_->type("Text2", QStringLiteral("Água"));
-    tela_->type("Combo4", QStringLiteral("7"));
-    save(boxes::askAlteration(), boxes::altered());
-    QCOMPARE(stored(), QStringLiteral("1|Água|Serviço|7|1"));
-    tela_->click(QStringLiteral("0003"));
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::askDelete(QStringLiteral("0003")), Button::Yes);
-    dialogs.expectBox(boxes::deleted());
-    tela_->excludeByMenu();
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(tela_->list().count(), 2);
-    tela_->press("Command2");
-    QVERIFY(!window_->isVisible());
-  }
-
-  void anAlterationLoadsTheRow() {
-    tela_->click(QStringLiteral("0001"));
-    tela_->press("Command1_1");
-    QCOMPARE(fields(), QStringList({"0001", "Miúdas", "001", "Pronto pagamento", "Consumo", "5"}));
-    QVERIFY(tela_->ticked("Check1"));
   }
 
   void aLongTypeIsCutButItsKeyIsSaved() {
@@ -317,25 +263,6 @@ class frmLeiTest : public QObject {
     QCOMPARE(term.text(), QStringLiteral("3"));
   }
 
-  void nothingClickedYet() {
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::mustPick());
-    tela_->press("Command1_1");
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(enabled(), QStringLiteral("010110"));
-  }
-
-  void escapeLosesNothing() {
-    tela_->press("Command1_3");
-    tela_->type("Text2", QStringLiteral("Texto"));
-    tela_->key(Qt::Key_Escape);
-    QVERIFY(window_->isVisible());
-    QCOMPARE(tela_->text("Text2"), QStringLiteral("Texto"));
-    tela_->shortcut(Qt::Key_C);
-    tela_->key(Qt::Key_Escape);
-    QVERIFY(!window_->isVisible());
-  }
-
   void byKeys() {
     tela_->key(Qt::Key_Home);
     tela_->key(Qt::Key_Return);
@@ -371,18 +298,6 @@ class frmLeiTest : public QObject {
     record.ID = 99;
     record.Carrega_lista();
     QCOMPARE(record.Categoria, QStringLiteral("Serviço"));
-  }
-
-  void keysAndNames() {
-    QCOMPARE(test::mnemonicClashes(*window_), QString());
-    QCOMPARE(test::unnamedControls(*window_), QString());
-    QCOMPARE(test::clippedTexts(*window_), QString());
-    QCOMPARE(test::tabRound(*window_),
-             QStringList({"ListView1", "Command2", "Command1_3", "Command1_1"}));
-    tela_->press("Command1_3");
-    QCOMPARE(test::tabRound(*window_),
-             QStringList({"Combo1", "Text2", "Text4", "Combo4", "Check1", "Command3", "Command1_0",
-                          "ListView1", "Command2", "Text1"}));
   }
 
  private:
@@ -426,11 +341,6 @@ class frmLeiTest : public QObject {
     dialogs.expectBox(told);
     tela_->press("Command3");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
-  }
-  QString stored() const {
-    return office_->ask(
-        "SELECT TIPO || '|' || DESCRICAO || '|' || CATEGORIA || '|' || PRAZO || '|' || ATIVO "
-        "FROM Inciso WHERE ID = 3");
   }
 
   std::unique_ptr<test::Office> office_;

@@ -3,7 +3,6 @@
 
 #include "masterdata/cTomador.h"
 #include "tests/masterdata/Tela.h"
-#include "tests/support/WindowChecks.h"
 #include "tests/support/office/OfficeMain.h"
 #include "tests/support/office/Samples.h"
 
@@ -31,19 +30,9 @@ class frmTomadorTest : public QObject {
     office_.reset();
   }
 
-  void opensOnTheFullList() {
-    QCOMPARE(window_->windowTitle(), QStringLiteral("Responsáveis pelo Recursos"));
-    QCOMPARE(tela_->at<QLabel>("Label_0").text(), QStringLiteral("Pesquisar por Nome:"));
-    QCOMPARE(tela_->at<QAction>("mnuexcluir").text(), QStringLiteral("Excluir Item"));
-    QCOMPARE(tela_->row(0), QStringList({"0001", "Responsável", "Motorista", "", ""}));
+  void nullsShowAsNothing() {
     QCOMPARE(tela_->row(2), QStringList({"0003", "", "", "", ""}));
-    QVERIFY(tela_->list().isChecked(0));
-    QVERIFY(!tela_->list().isChecked(1));
-    QStringList heads;
-    for (int n = 0; n < tela_->list().columnCount(); ++n) {
-      heads << tela_->list().model()->headerData(n, Qt::Horizontal).toString();
-    }
-    QCOMPARE(heads, QStringList({"ORDEM", "NOME", "CARGO", "RG", "CPF"}));
+    QVERIFY(!tela_->list().isChecked(2));
   }
 
   void aNameOfDigitsComesBackPadded() {
@@ -51,49 +40,6 @@ class frmTomadorTest : public QObject {
     tela_->click(QStringLiteral("0002"));
     tela_->press("Command1_1");
     QCOMPARE(tela_->text("txtnome"), QStringLiteral("007"));
-  }
-
-  void aWholeCycle() {
-    tela_->press("Command1_3");
-    QCOMPARE(tela_->focus(), QStringLiteral("txtnome"));
-    QVERIFY(!tela_->ticked("chkAtivo"));
-    tela_->type("txtnome", QStringLiteral(" João D'Ávila "));
-    tela_->type("txtrg", QStringLiteral(" 55 "));
-    tela_->type("txtcpf", QStringLiteral("52998224725"));
-    tela_->type("txtcargo", QStringLiteral(" Fiscal "));
-    tela_->tick("chkAtivo");
-    save(boxes::askInclusion(), boxes::saved());
-    QCOMPARE(stored(), QStringLiteral("João D'Ávila|Fiscal|55|529.982.247-25|1"));
-    tela_->click(QStringLiteral("0004"));
-    tela_->press("Command1_1");
-    QCOMPARE(tela_->focus(), QStringLiteral("txtnome"));
-    QCOMPARE(tela_->text("txtordem"), QStringLiteral("0004"));
-    QCOMPARE(tela_->text("txtnome"), QStringLiteral("João D'Ávila"));
-    QCOMPARE(tela_->text("txtcargo"), QStringLiteral("Fiscal"));
-    QCOMPARE(tela_->text("txtrg"), QStringLiteral("55"));
-    QCOMPARE(tela_->text("txtcpf"), QStringLiteral("529.982.247-25"));
-    QVERIFY(tela_->ticked("chkAtivo"));
-    tela_->tick("chkAtivo");
-    tela_->type("txtcpf", QString());
-    save(boxes::askAlteration(), boxes::altered());
-    QCOMPARE(stored(), QStringLiteral("João D'Ávila|Fiscal|55|___.___.___-__|0"));
-    tela_->click(QStringLiteral("0004"));
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::askDelete(QStringLiteral("0004")), Button::Yes);
-    dialogs.expectBox(boxes::deleted());
-    tela_->excludeByMenu();
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(tela_->list().count(), 3);
-  }
-
-  void theNameIsRequired() {
-    tela_->press("Command1_3");
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(
-        boxes::warning(QStringLiteral("Todos os campos obrigatórios devem ser preenchidos !!")));
-    tela_->press("Command2");
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(tela_->focus(), QStringLiteral("txtnome"));
   }
 
   void nothingHasALimit() {
@@ -112,23 +58,6 @@ class frmTomadorTest : public QObject {
     QVERIFY(!tela_->ticked("chkAtivo"));
   }
 
-  void aPersonWithAProcessStays() {
-    office_->run("INSERT INTO Requisicao(SEQ, ORGAO, TOMADOR) VALUES (114, 1, 1)");
-    tela_->click(QStringLiteral("0001"));
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::askDelete(QStringLiteral("0001")), Button::Yes);
-    dialogs.expectBox(boxes::saveFailure(ErrorNumber::DependantsExist, test::kAnything));
-    QTest::keyClick(&tela_->list(), Qt::Key_Delete);
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(tela_->list().count(), 3);
-  }
-
-  void theSearch() {
-    tela_->type("txtpesquisa", QStringLiteral("respons"));
-    tela_->press("cmdProcura");
-    QCOMPARE(tela_->names(), QStringList{"Responsável"});
-  }
-
   void loadingAPerson() {
     cTomador& record = cTomador::compartilhada();
     record.Ordem = 1;
@@ -140,32 +69,7 @@ class frmTomadorTest : public QObject {
     QCOMPARE(record.Cargo, QStringLiteral("Motorista"));
   }
 
-  void keysAndNames() {
-    QCOMPARE(test::mnemonicClashes(*window_), QString());
-    QCOMPARE(test::unnamedControls(*window_), QString());
-    QCOMPARE(test::clippedTexts(*window_), QString());
-    tela_->press("Command1_3");
-    QCOMPARE(test::clippedTexts(*window_), QString());
-    QCOMPARE(test::tabRound(*window_),
-             QStringList({"txtnome", "txtrg", "txtcpf", "txtcargo", "chkAtivo", "Command2",
-                          "Command1_0", "Command3"}));
-  }
-
  private:
-  void save(const Box& question, const Box& told) const {
-    test::ScriptedDialogs dialogs;
-    dialogs.expectBox(question, Button::Yes);
-    dialogs.expectBox(told);
-    tela_->press("Command2");
-    QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QVERIFY(!tela_->editing());
-  }
-  QString stored() const {
-    return office_->ask(
-        "SELECT NOME1 || '|' || CARGO || '|' || RG1 || '|' || CPF1 || '|' || ATIVO "
-        "FROM Tomador WHERE ID = 4");
-  }
-
   std::unique_ptr<test::Office> office_;
   std::unique_ptr<frmTomador> window_;
   std::unique_ptr<Tela> tela_;

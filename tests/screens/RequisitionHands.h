@@ -195,13 +195,7 @@ inline Box openAdvance() {
           .defaultButton = Button::Cancel};
 }
 
-inline Box askAbandon() {
-  return {.text = QStringLiteral("O que foi digitado não foi gravado. Sair assim mesmo?"),
-          .title = QStringLiteral("Aviso"),
-          .icon = BoxIcon::Question,
-          .buttons = {Button::Yes, Button::No},
-          .defaultButton = Button::No};
-}
+using boxes::askAbandon;
 
 inline Box untrapped(ErrorNumber number) {
   return {

@@ -24,6 +24,15 @@ inline Box askAlteration() {
   return question(QStringLiteral("Confirma alteração do registro?"));
 }
 
+// Before a window closes over what was typed.
+inline Box askAbandon() {
+  return {.text = QStringLiteral("O que foi digitado não foi gravado. Sair assim mesmo?"),
+          .title = QStringLiteral("Aviso"),
+          .icon = BoxIcon::Question,
+          .buttons = {Button::Yes, Button::No},
+          .defaultButton = Button::No};
+}
+
 inline Box told(const QString& text) {
   return {.text = text, .title = QStringLiteral("Aviso"), .icon = BoxIcon::Information};
 }
