@@ -22,19 +22,27 @@ class TwoPageTab;
 // backspace). It may change the code; 0 swallows the key.
 using Filtro_tecla = std::function<void(QLineEdit& caixa, int& tecla)>;
 
-// Lets `filtro` see the keys of `caixa` for as long as the box lives. Keys that type nothing
-// (arrows, Enter, Tab, shortcuts) pass by it.
-void Filtra_teclas(QLineEdit& caixa, Filtro_tecla filtro);
+// Lets `filtro` see what is typed into `caixa` for as long as the box lives, and likewise each
+// character that is composed (an accent with its letter), pasted or dropped. Keys that type nothing
+// (arrows, Enter, Tab, shortcuts) pass by it. Of a pasted text the `sinais` are passed over; one
+// with another character that the filter swallows, or too long for the box, is not pasted at all,
+// and that is said beside the box.
+void Filtra_teclas(QLineEdit& caixa, Filtro_tecla filtro, const QString& sinais = {});
+
+// Boxes for a date (Mascara_data), a time (Mascara_hora) and a number without signs.
+void Filtra_data(QLineEdit& caixa);
+void Filtra_hora(QLineEdit& caixa);
+void Filtra_digitos(QLineEdit& caixa);
 
 // Digits of a date: sets the slashes behind day and month. Swallows everything but digits and
-// backspace.
+// backspace. A selection gives way to the digit first.
 void Mascara_data(QLineEdit& caixa, int& tecla);
 
 // Digits of a time: sets the colon behind the hours. A backspace at that place sets it too, and
-// then takes it away.
+// then takes it away. A selection gives way first.
 void Mascara_hora(QLineEdit& caixa, int& tecla);
 
-// Puts the slashes of a date back in their places while it is edited.
+// Puts the slashes of a date back in their places while it is edited. The caret steps over one.
 void Formata_data(QLineEdit& caixa);
 
 // --- Screens

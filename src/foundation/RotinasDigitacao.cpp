@@ -1,5 +1,3 @@
-#include <QEvent>
-#include <QKeyEvent>
 #include <QLineEdit>
 
 #include "foundation/Rotinas.h"
@@ -20,60 +18,43 @@ void acrescenta(QLineEdit& caixa, QChar separador) {
   caixa.setCursorPosition(static_cast<int>(caixa.text().size()));
 }
 
-class Filtro : public QObject {
- public:
-  Filtro(QLineEdit& caixa, Filtro_tecla filtro)
-      : QObject(&caixa), caixa_(caixa), filtro_(std::move(filtro)) {
-    caixa.installEventFilter(this);
+// What is selected gives way to what is typed. False where the text then goes on behind the caret:
+// it has its separators already.
+bool segue_ao_fim(QLineEdit& caixa) {
+  if (!caixa.hasSelectedText()) {
+    return true;
   }
-
-  bool eventFilter(QObject* objeto, QEvent* evento) override {
-    if (evento->type() == QEvent::KeyPress) {
-      return filtra(*static_cast<QKeyEvent*>(evento));
-    }
-    return QObject::eventFilter(objeto, evento);
-  }
-
- private:
-  static int codigo(const QKeyEvent& evento) {
-    const bool atalho = evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    if (evento.key() == Qt::Key_Backspace) {
-      return kBackspace;
-    }
-    const QString texto = evento.text();
-    return !atalho && !texto.isEmpty() && texto.at(0).isPrint() ? texto.at(0).unicode() : 0;
-  }
-
-  // True when the key goes no further.
-  bool filtra(const QKeyEvent& evento) {
-    const int antes = codigo(evento);
-    if (antes == 0 || caixa_.isReadOnly()) {
-      return false;
-    }
-    int tecla = antes;
-    filtro_(caixa_, tecla);
-    if (tecla != antes && tecla != 0) {
-      caixa_.insert(QString(QChar(tecla)));
-    }
-    return tecla != antes;
-  }
-
-  QLineEdit& caixa_;
-  Filtro_tecla filtro_;
-};
+  caixa.del();
+  return caixa.cursorPosition() == caixa.text().size();
+}
 
 }  // namespace
 
-void Filtra_teclas(QLineEdit& caixa, Filtro_tecla filtro) {
-  new Filtro(caixa, std::move(filtro));
+void Filtra_data(QLineEdit& caixa) {
+  Filtra_teclas(caixa, Mascara_data, QStringLiteral("/-. "));
+}
+
+void Filtra_hora(QLineEdit& caixa) {
+  Filtra_teclas(caixa, Mascara_hora, QStringLiteral(":"));
+}
+
+void Filtra_digitos(QLineEdit& caixa) {
+  Filtra_teclas(caixa, [](QLineEdit&, int& tecla) {
+    if (tecla != kBackspace && !eh_digito(tecla)) {
+      tecla = 0;
+    }
+  });
 }
 
 void Mascara_data(QLineEdit& caixa, int& tecla) {
   if (tecla != kBackspace && !eh_digito(tecla)) {
     tecla = 0;
   }
+  if (!eh_digito(tecla) || !segue_ao_fim(caixa)) {
+    return;
+  }
   const auto tamanho = caixa.text().size();
-  if (eh_digito(tecla) && (tamanho == 2 || tamanho == 5)) {
+  if (tamanho == 2 || tamanho == 5) {
     acrescenta(caixa, QLatin1Char('/'));
   }
 }
@@ -83,7 +64,11 @@ void Mascara_hora(QLineEdit& caixa, int& tecla) {
     tecla = 0;
     return;
   }
-  if (tecla != kSemDoisPontos && caixa.text().size() == 2) {
+  const bool apaga_selecao = tecla == kBackspace && caixa.hasSelectedText();
+  if (tecla == kSemDoisPontos || apaga_selecao || !segue_ao_fim(caixa)) {
+    return;
+  }
+  if (caixa.text().size() == 2) {
     acrescenta(caixa, QLatin1Char(':'));
   }
 }
@@ -97,11 +82,10 @@ void Formata_data(QLineEdit& caixa) {
   } else if (digitos.size() > 2) {
     data = digitos.left(2) + '/' + digitos.mid(2);
   }
-  if (data == caixa.text()) {
-    // Also what ends the change that setText below causes.
-    return;
+  // The same text is not written again, which also ends the change that this causes.
+  if (data != caixa.text()) {
+    caixa.setText(data);
   }
-  caixa.setText(data);
   const bool depois_da_barra = cursor == 3 || cursor == 6;
   caixa.setCursorPosition(depois_da_barra ? cursor + 1 : cursor);
 }

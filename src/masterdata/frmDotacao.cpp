@@ -13,14 +13,6 @@ namespace quartela {
 namespace {
 
 constexpr int kDigitosChave = 3;  // of the keys in front of the names in the list
-constexpr int kRetrocesso = 8;
-
-// Digits and the backspace pass; every other key is swallowed.
-void so_digitos(QLineEdit&, int& tecla) {
-  if (tecla != kRetrocesso && (tecla < '0' || tecla > '9')) {
-    tecla = 0;
-  }
-}
 
 AparenciaCadastro aparencia() {
   return {.pesquisar_por = QStringLiteral("Pesquisar por Dotação:"),
@@ -50,7 +42,7 @@ frmDotacao::frmDotacao(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
              registro.Del_Dotacao();
            }});
   connect(ui_->cmbSetor, &ComboBox::picked, this, &frmDotacao::cmbSetor_Click);
-  Filtra_teclas(*ui_->txtdotacao, so_digitos);
+  Filtra_digitos(*ui_->txtdotacao);
   tela_->carrega();
 }
 

@@ -34,7 +34,6 @@ namespace {
 constexpr QStringView kData = u"dd/MM/yyyy";
 constexpr QStringView kValor = u"#,##0.00";
 const QString kZero = QStringLiteral("0,00");
-constexpr int kBackspace = 8;
 
 // The columns of the list of empenhos.
 constexpr int kAbertura = 1;
@@ -107,11 +106,7 @@ frmAdiantamento::~frmAdiantamento() {
 
 void frmAdiantamento::liga_eventos() {
   Seleciona_ao_entrar(*ui_->mskempenho);
-  Filtra_teclas(*ui_->mskOP, [](QLineEdit&, int& tecla) {
-    if (tecla != kBackspace && (tecla < '0' || tecla > '9')) {
-      tecla = 0;
-    }
-  });
+  Filtra_digitos(*ui_->mskOP);
   // The picture that opens its calendar belongs to the field.
   ui_->dtpfechamento->installEventFilter(this);
   const QList<QToolButton*> figuras = ui_->dtpfechamento->findChildren<QToolButton*>();

@@ -192,7 +192,7 @@ void frmCadastro::liga_digitacao() {
     Seleciona_ao_entrar(*campo);
     Enter_avanca(*campo);
   }
-  Filtra_teclas(*ui_->txtdatanota, Mascara_data);
+  Filtra_data(*ui_->txtdatanota);
   typeUpperCase(*ui_->txtrazao_social);
   ui_->txtrazao_social->installEventFilter(this);
   connect(ui_->txtordem, &QLineEdit::textChanged, this, &frmCadastro::txtordem_Change);

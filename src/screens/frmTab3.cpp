@@ -62,7 +62,7 @@ frmTab3::~frmTab3() {
 }
 
 void frmTab3::liga_eventos() {
-  Filtra_teclas(*ui_->txtmomento, Mascara_data);
+  Filtra_data(*ui_->txtmomento);
   connect(ui_->TabStrip1, &QTabWidget::currentChanged, this, &frmTab3::TabStrip1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &frmTab3::Command2_Click);
   connect(ui_->cmdVoltar, &QPushButton::clicked, this,
