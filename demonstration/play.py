@@ -146,10 +146,10 @@ class Play:
         self.display.no_window(title)
 
     def open_process(self):
-        """Opens the newest process, which stands first in the list."""
+        """Opens the process: the delivered counter begins at 1, below the town's own numbers of the year."""
         self.display.no_window("Cadastro de Requisição")
         self.display.focus("Quartela 2014")
-        self.keys("Home", "Return")
+        self.keys("End", "Return")
         self.display.focus("Cadastro de Requisição")
 
     def type_empenho(self):
