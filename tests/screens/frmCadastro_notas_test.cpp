@@ -361,16 +361,18 @@ class frmCadastroNotasTest : public QObject {
     QTest::addColumn<QString>("shown");
     QTest::newRow("letters") << "a1b2"
                              << "12,00";
-    QTest::newRow("two commas") << "1,2,3"
-                                << "1,23";
+    QTest::newRow("two commas stay") << "1,2,3"
+                                     << "1,2,3";
     QTest::newRow("minus") << "-5"
                            << "5,00";
-    QTest::newRow("three decimals") << "1,239"
-                                    << "1,23";
+    QTest::newRow("three decimals stay") << "1,239"
+                                         << "1,239";
+    QTest::newRow("dotted thousands") << "1.500,00"
+                                      << "1.500,00";
     QTest::newRow("dot as comma") << "12.50"
                                   << "12,50";
-    QTest::newRow("too many digits") << "123456789012345"
-                                     << "12.345.678.901.234,00";
+    QTest::newRow("too many digits stay") << "123456789012345"
+                                          << "123456789012345";
   }
   void theAmountTakesAmountsOnly() {
     QFETCH(QString, typed);

@@ -418,14 +418,14 @@ class frmCadastroRequisicaoTest : public QObject {
     QTest::addColumn<QString>("stored");
     QTest::newRow("letters") << "a1b2"
                              << "120000";
-    QTest::newRow("two commas") << "1,2,3"
-                                << "12300";
+    QTest::newRow("dotted thousands") << "1.500,00"
+                                      << "15000000";
     QTest::newRow("minus") << "-5"
                            << "50000";
     QTest::newRow("dot as comma") << "12.50"
                                   << "125000";
-    QTest::newRow("more digits than money holds") << "9999999999999999"
-                                                  << "999999999999990000";
+    QTest::newRow("as many digits as money holds") << "99999999999999"
+                                                   << "999999999999990000";
   }
   void theAmountTakesAmountsOnly() {
     QFETCH(QString, typed);
@@ -744,14 +744,23 @@ class frmCadastroRequisicaoTest : public QObject {
     QCOMPARE(desk_->office().ask(exact), "2014-11-04 00:00:00|123400");
   }
 
+  void anAmountThatIsNoneIsRefused_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("two dots") << "1.2.3";
+    QTest::newRow("two commas") << "1,2,3";
+    QTest::newRow("three decimals") << "1,239";
+    QTest::newRow("more digits than money holds") << "999999999999999";
+  }
   void anAmountThatIsNoneIsRefused() {
+    QFETCH(QString, typed);
     desk_->openProcess();
-    desk_->child<MoneyEdit>("mskvalor")->setText("1.2.3");
+    desk_->type("mskvalor", typed);
     ScriptedDialogs dialogs;
     dialogs.expectBox(test::warning("Valor inválido!!"));
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->focused(), "mskvalor");
+    QCOMPARE(desk_->text("mskvalor"), typed);
     QCOMPARE(desk_->office().ask("SELECT VALOR FROM Requisicao"), "10000000");
   }
 
