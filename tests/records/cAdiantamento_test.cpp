@@ -92,9 +92,8 @@ class cAdiantamentoTest : public QObject {
   void takenEmpenhoIsTold() {
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
-    dialogs.expectBox(
-        boxes::saveFailure(ErrorNumber::DuplicateKey,
-                           QStringLiteral("UNIQUE constraint failed: Adiantamento.EMPENHO")));
+    dialogs.expectBox(boxes::saveFailure(ErrorNumber::DuplicateKey,
+                                         QStringLiteral("campo EMPENHO da tabela Adiantamento")));
     sample().Save_ad(1);
   }
 
@@ -127,7 +126,7 @@ class cAdiantamentoTest : public QObject {
     bool free = false;
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::saveFailure(ErrorNumber::DependantsExist,
-                                         QStringLiteral("FOREIGN KEY constraint failed")),
+                                         QStringLiteral("há registros na tabela Anexo")),
                       Button::Ok, [&] {
                         inTransaction = Conexao->inTransaction();
                         free = anotherProgramCanWrite();

@@ -77,8 +77,10 @@ class cPrestContasTest : public QObject {
     cPrestContas note = sample();
     note.processo = 9;
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::saveFailure(ErrorNumber::ParentMissing,
-                                         QStringLiteral("FOREIGN KEY constraint failed")));
+    dialogs.expectBox(boxes::saveFailure(
+        ErrorNumber::ParentMissing,
+        QStringLiteral(
+            "campo PROCESSO da tabela PrestContas, que não está na tabela Adiantamento")));
     QVERIFY(!note.Save_prest(1));
     QCOMPARE(office_->ask("SELECT count(*) FROM PrestContas"), QStringLiteral("0"));
   }
@@ -93,8 +95,10 @@ class cPrestContasTest : public QObject {
     cPrestContas note = sample();
     note.processo = 9;
     test::ScriptedDialogs dialogs;
-    dialogs.expectBox(boxes::saveFailure(ErrorNumber::ParentMissing,
-                                         QStringLiteral("FOREIGN KEY constraint failed")));
+    dialogs.expectBox(boxes::saveFailure(
+        ErrorNumber::ParentMissing,
+        QStringLiteral(
+            "campo PROCESSO da tabela PrestContas, que não está na tabela Adiantamento")));
     note.Save_import();
   }
 
@@ -127,7 +131,7 @@ class cPrestContasTest : public QObject {
     bool inTransaction = true;
     const auto look = [&] { inTransaction = Conexao->inTransaction(); };
     const Box box = boxes::saveFailure(ErrorNumber::DependantsExist,
-                                       QStringLiteral("FOREIGN KEY constraint failed"));
+                                       QStringLiteral("há registros na tabela Anexo"));
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(box, Button::Ok, look);
     note.Del_prest();

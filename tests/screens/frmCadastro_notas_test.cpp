@@ -224,7 +224,7 @@ class frmCadastroNotasTest : public QObject {
     if (alters) {
       dialogs.expectBox(boxes::askAlteration(), Button::Yes);
     }
-    dialogs.expectBox(boxes::saveFailure(ErrorNumber::RowLocked, test::kAnything));
+    dialogs.expectBox(boxes::saveFailure(ErrorNumber::RowLocked));
     desk_->click("Command1_2");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->firstOther({{"txtdatanota", "05/11/2014"},

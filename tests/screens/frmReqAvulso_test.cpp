@@ -336,7 +336,7 @@ class frmReqAvulsoTest : public QObject {
     ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
     dialogs.expectBox(boxes::saveFailure(
-        locked ? ErrorNumber::RowLocked : ErrorNumber::ReadOnlyDatabase, test::kAnything));
+        locked ? ErrorNumber::RowLocked : ErrorNumber::ReadOnlyDatabase));
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->enabled(kButtons), QString("1001"));

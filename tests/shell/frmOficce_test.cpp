@@ -425,7 +425,7 @@ class frmOficceTest : public QObject {
     other.beginTransaction();
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(confirmDeletion(QStringLiteral("0002/14")), Button::Yes);
-    dialogs.expectBox(boxes::saveFailure(ErrorNumber::RowLocked, test::kAnything));
+    dialogs.expectBox(boxes::saveFailure(ErrorNumber::RowLocked));
     press(QStringLiteral("2"));
     other.rollback();
     press(QStringLiteral("21"));

@@ -4,6 +4,7 @@
 
 #include "platform/database/dialect/Dialect.h"
 #include "platform/database/engines/sqlite/Parameters.h"
+#include "platform/database/engines/sqlite/Refusals.h"
 #include "platform/database/engines/sqlite/Session.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/values/RuntimeError.h"
@@ -55,7 +56,11 @@ int Connection::execute(const QString& statement) {
   {
     sqlite::Statement command(target.handle(), translated.sql, sqlite::Activity::Deleting);
     sqlite::bindParameters(command, translated);
-    command.step();
+    const int code = command.tryStep();
+    if (sqlite::isConstraint(code)) {
+      sqlite::raiseRefusedDeletion(target.handle(), translated, translated.target);
+    }
+    sqlite::check(target.handle(), code, sqlite::Activity::Deleting);
     removed = sqlite3_changes(target.handle());
   }
   scope.commit();

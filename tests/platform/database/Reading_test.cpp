@@ -30,6 +30,8 @@ class Reading : public QObject {
   void foreignCells_data();
   void foreignCells();
   void computedOverflow();
+  void whatCannotBeComputed_data();
+  void whatCannotBeComputed();
   void nowIsTheClock();
   void manyRows();
   void wideRows();
@@ -305,6 +307,33 @@ void Reading::computedOverflow() {
   const QString sum = QStringLiteral("SELECT SEQ + SEQ AS DOBRO FROM Requisicao");
   QVERIFY2(wordsOf([&] { select(sum); }).contains(QStringLiteral("DOBRO")), "names the column");
   QCOMPARE(errorOf([&] { select(sum); }), 6);
+}
+
+void Reading::whatCannotBeComputed_data() {
+  QTest::addColumn<QString>("expression");
+  QTest::addColumn<int>("number");
+  QTest::addColumn<QString>("words");
+  const QString zero = QStringLiteral("Divisão por zero.");
+  const QString large = QStringLiteral("O número é grande demais para este campo.");
+  QTest::newRow("by zero") << "SEQ / 0" << 11 << zero;
+  QTest::newRow("whole division by zero") << "SEQ \\ (SEQ - SEQ)" << 11 << zero;
+  QTest::newRow("rest of zero") << "SEQ Mod 0.4" << 11 << zero;
+  QTest::newRow("amount by zero") << "VALOR / 0" << 11 << zero;
+  QTest::newRow("behind the calendar") << "DATA + 3000000" << 6 << large;
+  QTest::newRow("before the calendar") << "DATA - 700000" << 6 << large;
+}
+
+void Reading::whatCannotBeComputed() {
+  QFETCH(QString, expression);
+  QFETCH(int, number);
+  QFETCH(QString, words);
+  for (const char* statement : {"SELECT %1 AS X FROM Requisicao WHERE SEQ = 114",
+                                "SELECT SEQ FROM Requisicao WHERE %1 Is Null",
+                                "SELECT SEQ FROM Requisicao WHERE SEQ < 300 ORDER BY %1"}) {
+    const auto read = [&] { select(QString::fromLatin1(statement).arg(expression)); };
+    QCOMPARE(errorOf(read), number);
+    QCOMPARE(wordsOf(read), words);
+  }
 }
 
 void Reading::nowIsTheClock() {

@@ -52,7 +52,7 @@ inline Box deleted() {
                      "ligado a ele. Operação concluida !!!!!!"));
 }
 
-// The stop box of a failed save or delete; `detail` is the engine's own word behind the number's.
+// The stop box of a failed save or delete; `detail` says which field, of which table.
 inline Box saveFailure(ErrorNumber number, const QString& detail = {}) {
   return {.text = QStringLiteral("Erro n°: %1 Descrição: ").arg(static_cast<int>(number)) +
                   RuntimeError(number, detail).description(),

@@ -170,6 +170,9 @@ void Binder::checkGrouping(const Select& select) const {
   if (!select.grouped) {
     return;
   }
+  if (select.groupBy.empty() && !showsAggregate(select)) {
+    syntaxError("função de agregação em HAVING ou ORDER BY sem GROUP BY e sem outra no resultado");
+  }
   for (const bound::Output& output : select.outputs) {
     requireGrouped(select, output.node);
   }
@@ -179,6 +182,12 @@ void Binder::checkGrouping(const Select& select) const {
   if (select.having != kNone) {
     requireGrouped(select, select.having);
   }
+}
+
+bool Binder::showsAggregate(const Select& select) const {
+  return std::any_of(
+      select.outputs.begin(), select.outputs.end(),
+      [this](const bound::Output& output) { return operations_.at(output.node).aggregate; });
 }
 
 void Binder::requireGrouped(const Select& select, Index index) const {

@@ -46,6 +46,7 @@ class Binder {
   Index ordinal(const Frame& frame, const Expression& number) const;
   Index aliased(const Frame& frame, const Expression& name) const;
   void checkGrouping(const bound::Select& select) const;
+  bool showsAggregate(const bound::Select& select) const;
   void requireGrouped(const bound::Select& select, Index node) const;
   void deletion(const Tree& tree);
   void findUpdatable();

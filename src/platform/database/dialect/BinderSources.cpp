@@ -96,8 +96,8 @@ bool Binder::merges(const Frame& frame, const Tree& query, bool nullable) const 
 
 Joins Binder::merge(Frame& frame, const FromNode& node, const Tree& query, bool nullable) {
   Frame inner{query, frame.select};
-  inner.ordered = frame.ordered && isOnlySource(frame.tree) && !frame.tree.grouped() &&
-                  !frame.tree.distinct;
+  inner.ordered =
+      frame.ordered && isOnlySource(frame.tree) && !frame.tree.grouped() && !frame.tree.distinct;
   inner.distinguishable = frame.distinguishable && showsAllOnly(frame.tree);
   Joins joins = source(inner, query.fromRoot, nullable);
   where(inner);

@@ -22,7 +22,6 @@ enum class Op : std::uint8_t {
   Text,    // `text` with its quotes doubled as written
   Date,    // `text`
   Now,
-  Today,
   Identity,
   Column,   // of the table `source`, position `number`
   Derived,  // of the derived table `source`, position `number`
@@ -52,20 +51,10 @@ enum class Op : std::uint8_t {
   Concat,        // texts; `negated` lets a null stand for the empty text
   Convert,       // to the node's type
   Year,
-  Month,
-  Day,
-  Floor,
-  Length,
-  Upper,
-  Lower,
-  Coalesce,
-  If,
   Sum,
   Max,
   Min,
   Count,  // without operand: of rows
-  Average,
-  First,
 };
 
 struct Node {

@@ -45,6 +45,8 @@ EngineStatement translate(QStringView statement, const Catalogue& catalogue) {
   if (bound.kind == StatementKind::Select) {
     describeResult(bound, engine);
     engine.leastMatch = findLeastMatch(bound);
+  } else {
+    engine.target = bound.sources.front().table->name;
   }
   return engine;
 }

@@ -50,6 +50,8 @@ struct EngineStatement {
   std::vector<ResultColumn> columns;  // of a SELECT
   std::vector<Parameter> parameters;  // ?1 is the first
 
+  QString target;  // the table that a DELETE removes rows from
+
   // A SELECT on exactly one table, without grouping, DISTINCT or joins, can be written through.
   // Then `updatableTable` names the table, and behind `columns` the engine text selects
   // `keyColumns`, the columns of its primary key.

@@ -63,10 +63,7 @@ class Operations {
   // The operand as a number that can be counted with; error 3464 for texts and dates.
   Index countable(Index node);
   Index sameTyped(bound::Op op, Index left, Index right);
-  Index datePart(bound::Op op, Index node);
-  Index floor(Index node);
-  Index coalesce(std::span<Index> arguments);
-  Index either(std::span<Index> arguments);
+  Index year(Index node);
   Index aggregate(Function function, std::span<Index> arguments);
 
   bound::Statement& statement_;

@@ -88,6 +88,9 @@ void Parser::deletion() {
   node.name = nameText("falta o nome da tabela");
   tree_.fromRoot = addSource(node);
   whereClause();
+  if (sawAggregate_) {
+    syntaxError("função de agregação na condição de DELETE");
+  }
 }
 
 void Parser::select() {

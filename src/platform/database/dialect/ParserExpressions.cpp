@@ -75,20 +75,13 @@ ExpressionKind comparisonKind(TokenKind kind) {
 struct FunctionWord {
   QStringView name;
   Function function;
-  int fewest;
-  int most;
+  int arguments;
 };
 
 constexpr std::array kFunctions{
-    FunctionWord{u"YEAR", Function::Year, 1, 1},   FunctionWord{u"MONTH", Function::Month, 1, 1},
-    FunctionWord{u"DAY", Function::Day, 1, 1},     FunctionWord{u"NOW", Function::Now, 0, 0},
-    FunctionWord{u"DATE", Function::Date, 0, 0},   FunctionWord{u"INT", Function::Int, 1, 1},
-    FunctionWord{u"LEN", Function::Len, 1, 1},     FunctionWord{u"UCASE", Function::UCase, 1, 1},
-    FunctionWord{u"LCASE", Function::LCase, 1, 1}, FunctionWord{u"NZ", Function::Nz, 1, 2},
-    FunctionWord{u"IIF", Function::IIf, 3, 3},     FunctionWord{u"SUM", Function::Sum, 1, 1},
-    FunctionWord{u"MAX", Function::Max, 1, 1},     FunctionWord{u"MIN", Function::Min, 1, 1},
-    FunctionWord{u"COUNT", Function::Count, 1, 1}, FunctionWord{u"AVG", Function::Avg, 1, 1},
-    FunctionWord{u"FIRST", Function::First, 1, 1},
+    FunctionWord{u"YEAR", Function::Year, 1}, FunctionWord{u"NOW", Function::Now, 0},
+    FunctionWord{u"SUM", Function::Sum, 1},   FunctionWord{u"MAX", Function::Max, 1},
+    FunctionWord{u"MIN", Function::Min, 1},   FunctionWord{u"COUNT", Function::Count, 1},
 };
 
 const FunctionWord& functionNamed(const Token& name) {
@@ -312,7 +305,7 @@ Index Parser::call(const Token& name) {
     }
     append(index, last, expression());
   }
-  if (count < word.fewest || count > word.most) {
+  if (count != word.arguments) {
     syntaxError(name.position, "número de argumentos errado");
   }
   take();

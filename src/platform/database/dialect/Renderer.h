@@ -1,7 +1,7 @@
 // From a bound statement to SQLite's text.
 //
 // The text names, besides what SQLite has itself: the collation LATIN_NOCASE, and the functions
-// latin_like(pattern, text), latin_upper(text) and latin_lower(text).
+// latin_like(pattern, text), divisor(number), whole(number) and moment(seconds).
 //
 // Cells in the file: Bool 0 and 1, I16 and I32 integers, Money integer ten-thousandths, Number
 // reals, DateTime texts "YYYY-MM-DD HH:MM:SS". Every expression of a type keeps to its form.
@@ -51,6 +51,8 @@ class Renderer {
   void arithmetic(const bound::Node& node);
   void multiply(const bound::Node& node);
   void divide(const bound::Node& node);
+  void quotient(const bound::Node& node, const char* sign);
+  void divisor(const bound::Node& node);
   void days(const bound::Node& node);
   void dayCount(Index index);
 
@@ -59,9 +61,7 @@ class Renderer {
   void convert(const bound::Node& node);
   void convertToText(Index operand, ValueType from);
   void decimalText(Index operand, const char* scale);
-  void function(const bound::Node& node);
   void aggregate(const bound::Node& node);
-  void average(const bound::Node& node);
 
   // What all of them write with.
   void rounded(const char* before, Index operand, const char* after);

@@ -42,7 +42,8 @@ int stackEntries(const bound::Statement& statement, const Node& node) {
                  : 8;
     case Op::Multiply:
     case Op::Divide:
-    case Op::Floor:
+    case Op::IntegerDivide:
+    case Op::Modulo:
     case Op::AddDays:
     case Op::SubtractDays:
     case Op::DaysBetween:
@@ -51,14 +52,8 @@ int stackEntries(const bound::Statement& statement, const Node& node) {
       return 8;
     case Op::Between:
     case Op::In:
-    case Op::If:
     case Op::Concat:
-    case Op::Coalesce:
     case Op::Year:
-    case Op::Month:
-    case Op::Day:
-    case Op::Average:
-    case Op::First:
       return 7;
     default:
       return node.op <= Op::Derived ? 0 : 4;
@@ -133,8 +128,8 @@ void Renderer::operation(const Node& node) {
     comparison(node);
   } else if (node.op <= Op::Convert) {
     arithmetic(node);
-  } else if (node.op < Op::Sum) {
-    function(node);
+  } else if (node.op == Op::Year) {
+    wrapped("CAST(substr(", statement_.operand(node, 0), ", 1, 4) AS INTEGER)");
   } else {
     aggregate(node);
   }
@@ -165,11 +160,6 @@ void Renderer::leaf(const Node& node) {
       return;
     case Op::Now:
       now();
-      return;
-    case Op::Today:
-      out_ += "(substr(";
-      now();
-      out_ += ", 1, 10) || ' 00:00:00')";
       return;
     case Op::Identity:
       out_ += "last_insert_rowid()";
@@ -302,9 +292,9 @@ void Renderer::arithmetic(const Node& node) {
     case Op::Divide:
       return divide(node);
     case Op::IntegerDivide:
-      return infix(node, " / ");
+      return quotient(node, " / ");
     case Op::Modulo:
-      return infix(node, " % ");
+      return quotient(node, " % ");
     case Op::Concat:
       return concat(node);
     case Op::Convert:
@@ -334,13 +324,26 @@ void Renderer::multiply(const Node& node) {
 void Renderer::divide(const Node& node) {
   if (node.type == ValueType::Money) {
     wrapped("CAST(round(", statement_.operand(node, 0), " / ");
-    wrapped("", statement_.operand(node, 1), ") AS INTEGER)");
+    divisor(node);
+    out_ += ") AS INTEGER)";
   } else if (typeOf(statement_.operand(node, 0)) == ValueType::Money) {
     wrapped("(CAST(", statement_.operand(node, 0), " AS REAL) / ");
-    wrapped("", statement_.operand(node, 1), ")");
+    divisor(node);
+    out_ += ')';
   } else {
-    infix(node, " / ");
+    quotient(node, " / ");
   }
+}
+
+void Renderer::quotient(const Node& node, const char* sign) {
+  wrapped("(", statement_.operand(node, 0), sign);
+  divisor(node);
+  out_ += ')';
+}
+
+// SQLite's own answer to a division by zero is null.
+void Renderer::divisor(const Node& node) {
+  wrapped("divisor(", statement_.operand(node, 1), ")");
 }
 
 // Moments are counted in whole seconds, so that nothing is lost on the way.
@@ -351,9 +354,9 @@ void Renderer::days(const Node& node) {
     wrapped("", statement_.operand(node, 1), ")) / 86400.0)");
     return;
   }
-  wrapped("datetime(unixepoch(", moment, node.op == Op::AddDays ? ") + " : ") - ");
+  wrapped("moment(unixepoch(", moment, node.op == Op::AddDays ? ") + " : ") - ");
   dayCount(statement_.operand(node, 1));
-  out_ += ", 'unixepoch')";
+  out_ += ')';
 }
 
 void Renderer::dayCount(Index index) {

@@ -33,7 +33,7 @@ void Renderer::convert(const Node& node) {
   if (from == ValueType::Bool) {
     return wrapped("(-", operand, ")");
   }
-  rounded("", operand, from == ValueType::Money ? " / 10000.0" : "");
+  wrapped("whole(", operand, from == ValueType::Money ? " / 10000.0)" : ")");
 }
 
 // The same texts that cells have on the screen: decimal comma, day before month.
@@ -58,35 +58,6 @@ void Renderer::decimalText(Index operand, const char* scale) {
   out_ += " AS TEXT) || '|', '.0|', '|'), '.', ','), '|')";
 }
 
-void Renderer::function(const Node& node) {
-  const Index first = statement_.operand(node, 0);
-  switch (node.op) {
-    case Op::Year:
-      return wrapped("CAST(substr(", first, ", 1, 4) AS INTEGER)");
-    case Op::Month:
-      return wrapped("CAST(substr(", first, ", 6, 2) AS INTEGER)");
-    case Op::Day:
-      return wrapped("CAST(substr(", first, ", 9, 2) AS INTEGER)");
-    case Op::Floor:
-      return node.type == ValueType::Money
-                 ? wrapped("(CAST(floor(", first, " / 10000.0) AS INTEGER) * 10000)")
-                 : wrapped("floor(", first, ")");
-    case Op::Length:
-      return wrapped("length(", first, ")");
-    case Op::Upper:
-      return wrapped("latin_upper(", first, ")");
-    case Op::Lower:
-      return wrapped("latin_lower(", first, ")");
-    case Op::Coalesce:
-      wrapped("coalesce(", first, ", ");
-      return wrapped("", statement_.operand(node, 1), ")");
-    default:
-      wrapped("CASE WHEN ", first, " THEN ");
-      wrapped("", statement_.operand(node, 1), " ELSE ");
-      return wrapped("", statement_.operand(node, 2), " END");
-  }
-}
-
 void Renderer::aggregate(const Node& node) {
   if (node.operandCount == 0) {
     out_ += "count(*)";
@@ -98,25 +69,10 @@ void Renderer::aggregate(const Node& node) {
       return wrapped("sum(", operand, ")");
     case Op::Count:
       return wrapped("count(", operand, ")");
-    case Op::Average:
-      return average(node);
-    case Op::First:
-      // A column outside of every aggregate has the value of one row of the group, the first unless
-      // a maximum or minimum picks another; the count makes the statement one of groups.
-      return wrapped("CASE WHEN count(*) THEN ", operand, " END");
     default:
       out_ += node.op == Op::Max ? "max(" : "min(";
       collated(operand);
       out_ += ')';
-  }
-}
-
-void Renderer::average(const Node& node) {
-  const Index operand = statement_.operand(node, 0);
-  if (node.type == ValueType::Money) {
-    wrapped("CAST(round(avg(", operand, ")) AS INTEGER)");
-  } else {
-    wrapped("avg(", operand, ")");
   }
 }
 

@@ -59,22 +59,11 @@ enum class ExpressionKind : std::uint8_t {
 
 enum class Function : std::uint8_t {
   Year,
-  Month,
-  Day,
   Now,
-  Date,
-  Int,
-  Len,
-  UCase,
-  LCase,
-  Nz,
-  IIf,
   Sum,
   Max,
   Min,
   Count,
-  Avg,
-  First,
 };
 
 inline bool isAggregate(Function function) {

@@ -24,12 +24,12 @@ class Spoiler {
       statements_.push_back(QString::fromUtf8(statement));
     }
     for (const char* statement :
-         {"SELECT Nz(VALOR) & 'x', IIf(VALOR>1, LIMITE, 5), Int(VALOR) FROM Medidas AS M WHERE Not "
-          "(LIMITE In (1, 2.5)) GROUP BY VALOR, LIMITE",
+         {"SELECT Max(VALOR) & 'x', LIMITE / 5, NR Mod VALOR FROM Medidas AS M WHERE Not "
+          "(LIMITE In (1, 2.5)) GROUP BY VALOR, LIMITE, NR",
           "SELECT * FROM Sel_Totais RIGHT JOIN Sel_Siglas ON TOTAL = CHAVE ORDER BY 1 DESC",
-          "SELECT TOP 3 First(nome), Avg(distancia), Len(uf) FROM Sel_Primeiras GROUP BY uf HAVING "
+          "SELECT TOP 3 Min(nome), Sum(distancia) FROM Sel_Primeiras GROUP BY uf HAVING "
           "Count(*) > 1 - 2 * 3 Mod 4 \\ 5",
-          "SELECT UCase(nome), LCase(\"a\"\"b\"), Date() - #2014/01/31 10:20# FROM Cidades"}) {
+          "DELETE FROM Cidades WHERE nome = \"a\"\"b\" Or Now() - #2014/01/31 10:20# > 5"}) {
       statements_.push_back(QString::fromUtf8(statement));
     }
   }
@@ -100,6 +100,9 @@ class Composer {
   explicit Composer(unsigned seed) : random_(seed) {}
 
   QString next() {
+    if (die(4) == 1) {
+      return grouped();
+    }
     const QString columns = item() + QLatin1String(", ") + item();
     const QString source = pick({"Medidas", "Medidas AS M", "Cidades, Medidas",
                                  "Medidas LEFT JOIN Sel_Siglas ON NR = CHAVE",
@@ -116,6 +119,20 @@ class Composer {
   }
   int die(int sides) { return std::uniform_int_distribution<int>(1, sides)(random_); }
 
+  // Aggregates and constants in every place that could take them.
+  QString grouped() {
+    return QLatin1String("SELECT ") + total() + QLatin1String(", ") + total() +
+           QLatin1String(" FROM Medidas") + pick({"", " WHERE NR > 1"}) +
+           pick({"", "", " GROUP BY NR", " GROUP BY PARTE, NR"}) +
+           (die(3) == 1 ? QLatin1String(" HAVING ") + total() + QLatin1String(" > 1") : QString()) +
+           (die(2) == 1 ? QLatin1String(" ORDER BY ") + total() + pick({"", " DESC, 1"})
+                        : QString());
+  }
+  QString total() {
+    return pick({"Max(NR)", "Count(*)", "Sum(VALOR) + 1", "1", "NR", "PARTE", "True", "Now()",
+                 "NR + 2", "-Count(NR)", "Min(LIMITE) / 2", "Null"});
+  }
+
   QString item() { return die(2) == 1 ? number(5) : die(2) == 1 ? moment(4) : text(4); }
 
   QString number(int depth) {
@@ -124,15 +141,13 @@ class Composer {
                    "Null", "(NR)"});
     }
     const int less = depth - 1;
-    switch (die(6)) {
+    switch (die(5)) {
       case 1:
-        return QStringLiteral("Int(%1)").arg(number(less));
-      case 2:
-        return QStringLiteral("Nz(%1, %2)").arg(number(less), number(less));
-      case 3:
         return QStringLiteral("(%1 - %2)").arg(moment(less), moment(less));
-      case 4:
-        return pick({"Len(", "-("}) + number(less) + QLatin1Char(')');
+      case 2:
+        return QStringLiteral("-(%1)").arg(number(less));
+      case 3:
+        return QStringLiteral("Year(%1)").arg(moment(less));
       default:
         return number(less) + pick({" + ", " - ", " * ", " / ", " \\ ", " Mod "}) + number(less);
     }
@@ -140,7 +155,7 @@ class Composer {
 
   QString moment(int depth) {
     if (depth == 0 || die(3) == 1) {
-      return pick({"Now()", "Date()", "#2014/01/31#", "#2014/01/31 10:20:30#"});
+      return pick({"Now()", "#2014/01/31#", "#2014/01/31 10:20:30#"});
     }
     return QLatin1Char('(') + moment(depth - 1) + pick({" + ", " - "}) + number(depth - 1) +
            QLatin1Char(')');
@@ -150,9 +165,8 @@ class Composer {
     if (depth == 0 || die(3) == 1) {
       return pick({"[com \"aspas\"]", "'D''água'", "\"x\"", "''"});
     }
-    return die(2) == 1 ? QStringLiteral("UCase(%1)").arg(text(depth - 1))
-                       : text(depth - 1) + QLatin1String(" & ") +
-                             (die(2) == 1 ? number(depth - 1) : moment(depth - 1));
+    return text(depth - 1) + QLatin1String(" & ") +
+           (die(2) == 1 ? number(depth - 1) : moment(depth - 1));
   }
 
   QString condition(int depth) {

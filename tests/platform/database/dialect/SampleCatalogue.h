@@ -117,7 +117,7 @@ inline constexpr std::array kSampleQueries{
                 "WHERE Executor.ATIVO = True ORDER BY Executor.NOME"},
     SampleQuery{"Sel_Orgaos", "SELECT Orgao.IDORGAO, Orgao.ORGAO FROM Orgao"},
     SampleQuery{"Sel_Siglas",
-                "SELECT Orgao.IDORGAO AS CHAVE, Nz(Orgao.ORGAO, 'SEM') AS NOME "
+                "SELECT Orgao.IDORGAO AS CHAVE, Orgao.ORGAO & ' -' AS NOME "
                 "FROM Orgao"},
     SampleQuery{"Sel_Pares",
                 "SELECT Tomador.ID, Inciso.TIPO, Tipos.TIPO FROM Tomador, "

@@ -1,6 +1,5 @@
 // An empty database in memory with the sample tables, to prove that a rendered text is one that the
-// engine takes, and to count with it. The collation and the functions that texts name are trivial
-// stand-ins for ASCII; the engine's own have their own tests.
+// engine takes, and to count with it.
 #pragma once
 
 #include <sqlite3.h>
@@ -9,6 +8,8 @@
 #include <QString>
 #include <string>
 
+#include "platform/database/engines/sqlite/Arithmetic.h"
+#include "platform/database/engines/sqlite/Latin.h"
 #include "tests/platform/database/dialect/SampleCatalogue.h"
 
 namespace quartela::test {
@@ -17,13 +18,8 @@ class SampleEngine {
  public:
   SampleEngine() {
     sqlite3_open(":memory:", &db_);
-    sqlite3_create_collation_v2(db_, "LATIN_NOCASE", SQLITE_UTF8, nullptr, compare, nullptr);
-    sqlite3_create_function_v2(db_, "latin_like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
-                               like, nullptr, nullptr, nullptr);
-    for (const char* name : {"latin_upper", "latin_lower"}) {
-      sqlite3_create_function_v2(db_, name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, same,
-                                 nullptr, nullptr, nullptr);
-    }
+    sqlite::registerLatin(db_);
+    sqlite::registerArithmetic(db_);
     for (const SampleTable& table : kSampleTables) {
       create(sampleTable(table));
     }
@@ -61,8 +57,12 @@ class SampleEngine {
       sqlite3_bind_text(statement, 1, "2014-11-21 10:30:00", -1, SQLITE_STATIC);
     }
     QStringList rows;
-    while (sqlite3_step(statement) == SQLITE_ROW) {
+    int code = SQLITE_ROW;
+    while ((code = sqlite3_step(statement)) == SQLITE_ROW) {
       rows.append(row(statement));
+    }
+    if (code != SQLITE_DONE) {
+      rows = {QString::fromUtf8(sqlite3_errmsg(db_))};
     }
     sqlite3_finalize(statement);
     return rows.join(QLatin1Char(';'));
@@ -71,25 +71,6 @@ class SampleEngine {
   void run(const char* sql) { sqlite3_exec(db_, sql, nullptr, nullptr, nullptr); }
 
  private:
-  static int compare(void*, int leftSize, const void* left, int rightSize, const void* right) {
-    return sqlite3_stricmp(
-        std::string(static_cast<const char*>(left), std::size_t(leftSize)).c_str(),
-        std::string(static_cast<const char*>(right), std::size_t(rightSize)).c_str());
-  }
-
-  static void like(sqlite3_context* context, int, sqlite3_value** values) {
-    const auto text = [&](int i) {
-      return reinterpret_cast<const char*>(sqlite3_value_text(values[i]));
-    };
-    if (text(0) != nullptr && text(1) != nullptr) {
-      sqlite3_result_int(context, sqlite3_strlike(text(0), text(1), 0) == 0 ? 1 : 0);
-    }
-  }
-
-  static void same(sqlite3_context* context, int, sqlite3_value** values) {
-    sqlite3_result_value(context, values[0]);
-  }
-
   static QString row(sqlite3_stmt* statement) {
     QStringList cells;
     for (int i = 0; i < sqlite3_column_count(statement); ++i) {

@@ -189,7 +189,7 @@ class StoredQueriesTest : public QObject {
     row("computed on the side that may be missing",
         "SELECT NOME FROM Tipos LEFT JOIN Sel_Siglas ON IDORGAO = CHAVE",
         R"(SELECT "Sel_Siglas".c1 FROM "Tipos" LEFT JOIN (SELECT "Orgao"."IDORGAO" AS c0, )"
-        R"(coalesce("Orgao"."ORGAO", 'SEM') AS c1 FROM "Orgao") AS "Sel_Siglas" ON )"
+        R"((coalesce("Orgao"."ORGAO", '') || coalesce(' -', '')) AS c1 FROM "Orgao") AS "Sel_Siglas" ON )"
         R"(("Tipos"."IDORGAO" = "Sel_Siglas".c0))");
   }
   void nested() { checkText(); }

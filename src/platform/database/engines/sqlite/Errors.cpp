@@ -2,8 +2,10 @@
 
 #include <QString>
 #include <cerrno>
+#include <cstring>
 #include <new>
 
+#include "platform/database/engines/sqlite/Arithmetic.h"
 #include "platform/database/engines/sqlite/GuardedFiles.h"
 #include "platform/values/RuntimeError.h"
 
@@ -11,23 +13,6 @@ namespace quartela::sqlite {
 namespace {
 
 constexpr int kPrimaryCodeMask = 0xFF;
-
-ErrorNumber constraintNumber(int code, Activity activity) {
-  switch (code) {
-    case SQLITE_CONSTRAINT_FOREIGNKEY:
-    case SQLITE_CONSTRAINT_TRIGGER:  // the engine carries RESTRICT out as a trigger of its own
-      return activity == Activity::Deleting ? ErrorNumber::DependantsExist
-                                            : ErrorNumber::ParentMissing;
-    case SQLITE_CONSTRAINT_NOTNULL:
-      return ErrorNumber::ColumnRequired;
-    case SQLITE_CONSTRAINT_PRIMARYKEY:
-    case SQLITE_CONSTRAINT_UNIQUE:
-    case SQLITE_CONSTRAINT_ROWID:
-      return ErrorNumber::DuplicateKey;
-    default:
-      return ErrorNumber::ValueRefused;
-  }
-}
 
 // What keeps a file from being used at all is a matter of its path while it is being opened.
 ErrorNumber fileNumber(Activity activity, ErrorNumber later) {
@@ -39,10 +24,31 @@ ErrorNumber ioNumber(sqlite3* db) {
   return cause == ENOSPC || cause == EDQUOT ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccess;
 }
 
+// A statement that could be prepared only fails over a number that it computes.
+ErrorNumber computingNumber(sqlite3* db) {
+  const bool division = db != nullptr && std::strcmp(sqlite3_errmsg(db), kDivisionByZero) == 0;
+  return division ? ErrorNumber::DivisionByZero : ErrorNumber::Overflow;
+}
+
+// Whether the number's own words leave open what has happened, so that a technician would ask.
+bool leavesOpen(ErrorNumber number) {
+  switch (number) {
+    case ErrorNumber::InvalidPath:
+    case ErrorNumber::DatabaseDamaged:
+    case ErrorNumber::PathFileAccess:
+    case ErrorNumber::SyntaxError:
+    case ErrorNumber::InvalidProcedureCall:
+      return true;
+    default:
+      return false;
+  }
+}
+
 ErrorNumber numberOf(sqlite3* db, int code, Activity activity) {
   switch (code & kPrimaryCodeMask) {
     case SQLITE_CONSTRAINT:
-      return constraintNumber(code, activity);
+      return activity == Activity::Deleting ? ErrorNumber::DependantsExist
+                                            : ErrorNumber::ValueRefused;
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
     case SQLITE_PROTOCOL:
@@ -64,8 +70,7 @@ ErrorNumber numberOf(sqlite3* db, int code, Activity activity) {
     case SQLITE_TOOBIG:
       return ErrorNumber::Overflow;
     case SQLITE_ERROR:
-      // A statement that could be prepared only fails over a number that it computes.
-      return activity == Activity::Preparing ? ErrorNumber::SyntaxError : ErrorNumber::Overflow;
+      return activity == Activity::Preparing ? ErrorNumber::SyntaxError : computingNumber(db);
     default:
       return ErrorNumber::InvalidProcedureCall;
   }
@@ -90,7 +95,8 @@ void raise(sqlite3* db, int code, Activity activity) {
             "cópia dos dois arquivos e chame o suporte."));
   }
   const char* words = db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(code);
-  throw RuntimeError(numberOf(db, code, activity), QString::fromUtf8(words));
+  const ErrorNumber number = numberOf(db, code, activity);
+  throw RuntimeError(number, leavesOpen(number) ? QString::fromUtf8(words) : QString());
 }
 
 }  // namespace quartela::sqlite

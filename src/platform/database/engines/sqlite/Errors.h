@@ -10,8 +10,8 @@ namespace quartela::sqlite {
 // What the program is about when the engine answers; some codes mean another thing by it.
 enum class Activity : std::uint8_t { Opening, Preparing, Reading, Writing, Deleting };
 
-// Raises the error that `code` stands for, with the engine's own words in brackets. `db` may be
-// null.
+// Raises the error that `code` stands for. The engine's own words, which are English, stand in
+// brackets behind the number's where those leave open what has happened. `db` may be null.
 [[noreturn]] void raise(sqlite3* db, int code, Activity activity);
 
 // Every result code passes here. OK, ROW and DONE are no errors.

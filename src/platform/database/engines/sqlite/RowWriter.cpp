@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/database/engines/sqlite/Refusals.h"
 #include "platform/database/engines/sqlite/Session.h"
 #include "platform/values/RuntimeError.h"
 
@@ -11,8 +12,8 @@ namespace {
 
 using Cells = std::vector<CellToWrite>;
 
-[[noreturn]] void raiseRequired(const QString& column) {
-  throw RuntimeError(ErrorNumber::ColumnRequired, column);
+[[noreturn]] void raiseRequired(const CatalogueTable& table, const CatalogueColumn& column) {
+  throw RuntimeError(ErrorNumber::ColumnRequired, namedField(table, column.name));
 }
 
 // "name" = ?n, ... with the given text between them; the numbers go on from `first`.
@@ -89,7 +90,7 @@ void RowWriter::requireCells(const Cells& cells) const {
     const CellToWrite* const cell = cellOf(cells, column.name);
     const bool missing = cell == nullptr ? !hasDefault(column) : cell->value.isNull();
     if (missing) {
-      raiseRequired(column.name);
+      raiseRequired(table_, column);
     }
   }
 }
@@ -98,7 +99,7 @@ void RowWriter::refuseNulls(const Cells& cells) const {
   for (const CatalogueColumn& column : table_.columns) {
     const CellToWrite* const cell = cellOf(cells, column.name);
     if (column.required && cell != nullptr && cell->value.isNull()) {
-      raiseRequired(column.name);
+      raiseRequired(table_, column);
     }
   }
 }
@@ -122,6 +123,15 @@ std::string RowWriter::returning() const {
   return text;
 }
 
+bool RowWriter::step(Statement& statement, const Cells& written) const {
+  const int code = statement.tryStep();
+  if (isConstraint(code)) {
+    raiseRefusedRow(session_.handle(), code, table_, written);
+  }
+  check(session_.handle(), code, Activity::Writing);
+  return code == SQLITE_ROW;
+}
+
 bool RowWriter::runAndLoad(const std::string& sql, const Cells& first, const Cells& second,
                            ResultRows& rows) const {
   Statement statement(session_.handle(), session_.prepared(sql), Activity::Writing);
@@ -129,7 +139,7 @@ bool RowWriter::runAndLoad(const std::string& sql, const Cells& first, const Cel
   bindAll(statement, second, first.size() + 1);
   const int before = rows.rowCount();
   try {
-    while (statement.step()) {
+    while (step(statement, first)) {
       loadRow(statement, returned_, rows);
     }
   } catch (...) {

@@ -39,6 +39,7 @@ class RowWriter {
   void refuseNulls(const std::vector<CellToWrite>& cells) const;
   bool hasDefault(const CatalogueColumn& column) const;
   std::string returning() const;
+  bool step(Statement& statement, const std::vector<CellToWrite>& written) const;
   bool runAndLoad(const std::string& sql, const std::vector<CellToWrite>& first,
                   const std::vector<CellToWrite>& second, ResultRows& rows) const;
 

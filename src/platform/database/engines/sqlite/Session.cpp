@@ -5,6 +5,7 @@
 #include <QUrl>
 #include <QtEndian>
 
+#include "platform/database/engines/sqlite/Arithmetic.h"
 #include "platform/database/engines/sqlite/CatalogueReader.h"
 #include "platform/database/engines/sqlite/FileCheck.h"
 #include "platform/database/engines/sqlite/GuardedFiles.h"
@@ -35,6 +36,7 @@ Handle openHandle(const QString& path, int flags) {
   check(db, code, Activity::Opening);
   check(db, sqlite3_busy_timeout(db, kBusyMilliseconds), Activity::Opening);
   check(db, registerLatin(db), Activity::Opening);
+  check(db, registerArithmetic(db), Activity::Opening);
   return handle;
 }
 

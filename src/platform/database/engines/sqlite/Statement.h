@@ -29,10 +29,12 @@ class Statement {
 
   // True when there is a row.
   bool step() {
-    const int code = sqlite3_step(statement_);
+    const int code = tryStep();
     check(db_, code, activity_);
     return code == SQLITE_ROW;
   }
+  // The engine's result code, for who knows more of a refusal.
+  int tryStep() { return sqlite3_step(statement_); }
 
   QString text(int column) const;
   std::int64_t integer(int column) const { return sqlite3_column_int64(statement_, column); }
