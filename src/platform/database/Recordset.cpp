@@ -18,6 +18,13 @@ bool isTableName(const QString& source, const Catalogue& catalogue) {
   return catalogue.table(name) != nullptr;
 }
 
+// A letter and an accent behind it are kept as the composed letter.
+Value composed(Value value) {
+  return value.type() == ValueType::Text
+             ? Value(value.text().normalized(QString::NormalizationForm_C))
+             : std::move(value);
+}
+
 }  // namespace
 
 Recordset::Recordset() = default;
@@ -167,7 +174,7 @@ void Recordset::setField(int position, const Value& value) {
   if (!data.edit) {
     data.requireCurrentRow();
   }
-  Value converted = Convert::toType(value, data.rows.type(kept));
+  Value converted = composed(Convert::toType(value, data.rows.type(kept)));
   if (!data.edit) {
     data.beginChange();
   }

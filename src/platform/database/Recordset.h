@@ -59,7 +59,8 @@ class Recordset {
   void addNew();
   // Writes a cell of the row begun; without one, begins a change of the current row (3021 when
   // there is none, 3167 when another program has deleted it). The value is converted to the
-  // column's type: 13 and 6 as Convert raises them. 3027 for a computed column.
+  // column's type: 13 and 6 as Convert raises them; accents of a text are composed with their
+  // letters. 3027 for a computed column.
   void setField(int position, const Value& value);
   void setField(QStringView name, const Value& value);
   // Writes the row begun and gives the lock up; the row is then safe on the disk. Without a row

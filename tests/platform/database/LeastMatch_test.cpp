@@ -36,7 +36,7 @@ QString anyWord(QRandomGenerator& random) {
   for (int length = random.bounded(7); length > 0; --length) {
     word += letters[random.bounded(static_cast<int>(letters.size()))];
   }
-  return word;
+  return random.bounded(10) == 0 ? word.normalized(QString::NormalizationForm_D) : word;
 }
 
 }  // namespace
@@ -86,6 +86,14 @@ class LeastMatch_test : public QObject {
                                        << "A@Z";
     QTest::newRow("an apostrophe") << QStringList{"CAIXA D'ÁGUA"} << "caixa d''á"
                                    << "CAIXA D'ÁGUA";
+    QTest::newRow("an accent behind its letter") << QStringList{"PA\u0303O B", "PAO C"} << "P"
+                                                 << "PA\u0303O B";
+    QTest::newRow("an accented letter finds it") << QStringList{"PA\u0303O B", "PAO A"} << "pã"
+                                                 << "PA\u0303O B";
+    QTest::newRow("as does one typed so") << QStringList{"PÃO B", "PAO A"} << "pa\u0303"
+                                          << "PÃO B";
+    QTest::newRow("a plain letter does not") << QStringList{"PA\u0303O B", "PAZ"} << "pa"
+                                             << "PAZ";
     QTest::newRow("a sign that folds to a plain letter") << QStringList{"K"} << "k"
                                                          << "K";
   }
@@ -97,6 +105,8 @@ class LeastMatch_test : public QObject {
     addTexts(*database_, texts);
     compareBoth(prefix);
     QCOMPARE(answer(prefix), found);
+    // Accents behind their letters stand in no order of the index.
+    QCOMPARE(byIndex(prefix).known, !texts.join(QString()).contains(QChar(0x303)));
   }
 
   // Whatever stands in the column, the index gives what the statement gives.
@@ -252,8 +262,9 @@ class LeastMatch_test : public QObject {
     QVERIFY2(sqlite::compareLatin(plain.toStdString(), indexed.toStdString()) == 0,
              qUtf8Printable(prefix + ": " + plain + " | " + indexed));
     const sqlite::FoundText found = byIndex(prefix);
-    QVERIFY(found.known);
-    QCOMPARE(QString::fromStdString(found.text.value_or("")), indexed);
+    if (found.known) {
+      QCOMPARE(QString::fromStdString(found.text.value_or("")), indexed);
+    }
   }
 
   std::unique_ptr<SmallDatabase> database_;

@@ -50,6 +50,7 @@ class Writing : public QObject {
   void transactions();
   void rowsInsideATransaction();
   void transactionMistakes();
+  void accentsAreComposed();
   void hostileTexts();
 
  private:
@@ -598,6 +599,28 @@ void Writing::transactionMistakes() {
   QCOMPARE(errorOf([&] { connection_->beginTransaction(); }), 5);
   QVERIFY(connection_->inTransaction());
   connection_->rollback();
+}
+
+// A letter with its accent typed behind it is kept, found and ordered as the composed letter.
+void Writing::accentsAreComposed() {
+  const QString apart = QStringLiteral("AC\u0327A\u0303O E\u0301 x\u0301");
+  open(QStringLiteral("Orgao"));
+  rows_.addNew();
+  rows_.setField(u"ORGAO", apart);
+  QCOMPARE(rows_.field(u"ORGAO"), Value(QStringLiteral("AÇÃO É x\u0301")));
+  rows_.update();
+  QCOMPARE(ask("SELECT ORGAO FROM Orgao WHERE IDORGAO = 4"), QStringLiteral("AÇÃO É x\u0301"));
+  QCOMPARE(connection_->execute("DELETE FROM Orgao WHERE ORGAO = '" + apart.toLower() + "'"), 1);
+  // Another program has written it.
+  database_->run("INSERT INTO Orgao (ORGAO) VALUES ('" + apart.toUtf8() + "')");
+  for (const char* condition :
+       {"ORGAO = 'ação é x\u0301'", "ORGAO Like 'AÇÃO É%'",
+        "ORGAO Like '%C\u0327a\u0303O e\u0301%'", "ORGAO In ('x', 'AÇÃO É x\u0301')"}) {
+    rows_.close();
+    rows_.open(QStringLiteral("SELECT ORGAO FROM Orgao WHERE ") + QString::fromUtf8(condition),
+               *connection_);
+    QVERIFY2(rows_.recordCount() == 1, condition);
+  }
 }
 
 void Writing::hostileTexts() {

@@ -37,7 +37,9 @@ void describeResult(const bound::Statement& statement, EngineStatement& engine) 
 }  // namespace
 
 EngineStatement translate(QStringView statement, const Catalogue& catalogue) {
-  const Tree tree = parse(statement);
+  // A letter and an accent behind it are the composed letter, however they were typed.
+  const QString composed = statement.toString().normalized(QString::NormalizationForm_C);
+  const Tree tree = parse(composed);
   const bound::Statement bound = bind(tree, catalogue);
   EngineStatement engine;
   engine.kind = bound.kind;

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <optional>
 
 namespace quartela::sqlite {
 namespace {
@@ -130,8 +131,37 @@ const unsigned char* bytesOf(std::string_view text) {
   return reinterpret_cast<const unsigned char*>(text.data());
 }
 
-// Writes the folded text to `out`, which has room for kFoldedGrowth times its bytes.
-std::size_t foldInto(std::string_view text, char* out) {
+inline bool isAccentLead(const unsigned char* at, const unsigned char* end) {
+  return at < end && (*at == 0xCC || *at == 0xCD);
+}
+
+// The accents behind a letter composed with it, where there is such a letter; all else as it is.
+std::string composed(std::string_view text) {
+  std::string out;
+  const unsigned char* at = bytesOf(text);
+  const unsigned char* const end = at + text.size();
+  const unsigned char* begin = at;
+  while (at < end) {
+    begin = at;
+    QString letter;
+    for (char32_t next = decode(at, end);; next = decode(at, end)) {
+      if (next < kInvalidByte) {
+        letter += QString::fromUcs4(&next, 1);
+      }
+      const unsigned char* ahead = at;
+      if (at == end || next >= kInvalidByte || !isAccent(decode(ahead, end))) {
+        break;
+      }
+    }
+    out += letter.size() > 1 ? letter.normalized(QString::NormalizationForm_C).toStdString()
+                             : std::string(begin, at);
+  }
+  return out;
+}
+
+// Writes the folded text to `out`, which has room for kFoldedGrowth times its bytes; `accents`
+// tells of accents that have to be composed with their letters first.
+std::size_t foldInto(std::string_view text, char* out, bool& accents) {
   const char* const begin = out;
   const unsigned char* at = bytesOf(text);
   const unsigned char* const end = at + text.size();
@@ -139,10 +169,17 @@ std::size_t foldInto(std::string_view text, char* out) {
     if (*at < 0x80) {
       *out++ = static_cast<char>(kAsciiFold[*at++]);
     } else {
+      accents = accents || isAccentLead(at, end);
       out = encode(letterOf(decode(at, end)).folded, out);
     }
   }
   return static_cast<std::size_t>(out - begin);
+}
+
+std::string folded(std::string_view text, bool& accents) {
+  std::string letters(text.size() * kFoldedGrowth, '\0');
+  letters.resize(foldInto(text, letters.data(), accents));
+  return letters;
 }
 
 template <typename T>
@@ -166,11 +203,23 @@ LatinCharacter firstLatinCharacter(std::string_view text) {
           .valid = character < kInvalidByte};
 }
 
-int compareLatin(std::string_view a, std::string_view b) {
+bool hasAccent(std::string_view text) {
+  return text.find_first_of("\xCC\xCD") != std::string_view::npos;
+}
+
+namespace {
+
+// Nothing when accents have to be composed with their letters first; what is decided before they
+// are met is decided by letters that they cannot change.
+template <bool Composed>
+std::optional<int> compareTexts(std::string_view a, std::string_view b) {
   const unsigned char* left = bytesOf(a);
   const unsigned char* right = bytesOf(b);
   const unsigned char* const leftEnd = left + a.size();
   const unsigned char* const rightEnd = right + b.size();
+  const auto atAccent = [&] {
+    return !Composed && (isAccentLead(left, leftEnd) || isAccentLead(right, rightEnd));
+  };
   int accents = 0;
   while (left < leftEnd && right < rightEnd) {
     if (*left < 0x80 && *right < 0x80) {
@@ -179,6 +228,9 @@ int compareLatin(std::string_view a, std::string_view b) {
         return difference;
       }
       continue;
+    }
+    if (atAccent()) {
+      return std::nullopt;
     }
     const Letter one = letterOf(decode(left, leftEnd));
     const Letter other = letterOf(decode(right, rightEnd));
@@ -189,14 +241,24 @@ int compareLatin(std::string_view a, std::string_view b) {
       accents = order(one.folded, other.folded);
     }
   }
+  if (atAccent()) {
+    return std::nullopt;
+  }
   const int lengths = order(leftEnd - left, rightEnd - right);
   return lengths != 0 ? lengths : accents;
 }
 
+}  // namespace
+
+int compareLatin(std::string_view a, std::string_view b) {
+  const std::optional<int> result = compareTexts<false>(a, b);
+  return result ? *result : *compareTexts<true>(composed(a), composed(b));
+}
+
 std::string foldLatin(std::string_view text) {
-  std::string folded(text.size() * kFoldedGrowth, '\0');
-  folded.resize(foldInto(text, folded.data()));
-  return folded;
+  bool accents = false;
+  std::string letters = folded(text, accents);
+  return accents ? folded(composed(text), accents) : letters;
 }
 
 LikePattern::LikePattern(std::string_view pattern) : folded_(foldLatin(pattern)) {
@@ -211,8 +273,10 @@ bool LikePattern::matches(std::string_view text) const {
   if (text.size() * kFoldedGrowth > kStackBytes) {
     return matchesFolded(foldLatin(text));
   }
-  std::array<char, kStackBytes> folded;
-  return matchesFolded({folded.data(), foldInto(text, folded.data())});
+  std::array<char, kStackBytes> letters;
+  bool accents = false;
+  const std::size_t size = foldInto(text, letters.data(), accents);
+  return accents ? matchesFolded(foldLatin(text)) : matchesFolded({letters.data(), size});
 }
 
 // Only the last % passed needs to be come back to: an earlier one cannot do better.
@@ -281,26 +345,6 @@ void like(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_set_auxdata(context, 0, pattern.release(), deletePattern);
 }
 
-QString upper(const QString& text) {
-  return text.toUpper();
-}
-
-QString lower(const QString& text) {
-  return text.toLower();
-}
-
-template <QString (*Change)(const QString&)>
-void changeCase(sqlite3_context* context, int, sqlite3_value** arguments) {
-  if (isNull(arguments[0])) {
-    return;
-  }
-  const std::string_view text = textOf(arguments[0]);
-  const QByteArray changed =
-      Change(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))).toUtf8();
-  sqlite3_result_text64(context, changed.constData(), static_cast<sqlite3_uint64>(changed.size()),
-                        SQLITE_TRANSIENT, SQLITE_UTF8);
-}
-
 }  // namespace
 
 int registerLatin(sqlite3* db) {
@@ -311,8 +355,6 @@ int registerLatin(sqlite3* db) {
   const std::array codes{
       sqlite3_create_collation_v2(db, "LATIN_NOCASE", SQLITE_UTF8, nullptr, collate, nullptr),
       offer("latin_like", 2, like),
-      offer("latin_upper", 1, changeCase<upper>),
-      offer("latin_lower", 1, changeCase<lower>),
   };
   const auto* const failed =
       std::find_if(codes.begin(), codes.end(), [](int code) { return code != SQLITE_OK; });

@@ -3,8 +3,8 @@
 //   LATIN_NOCASE                  a collation. É equals é and differs from E, but stands beside it:
 //                                 accents only decide between texts that are alike without them.
 //   latin_like(pattern, text)     1 or 0, null when either is null; % is any run, _ any character.
-//   latin_upper(text), latin_lower(text)   the letters of the whole of Latin script changed.
-// Invalid UTF-8 compares byte by byte.
+// Invalid UTF-8 compares byte by byte. A letter with its accent behind it as a character of its own
+// is the same as the composed letter, everywhere.
 #pragma once
 
 #include <sqlite3.h>
@@ -21,7 +21,14 @@ int compareLatin(std::string_view a, std::string_view b);
 // The UTF-8 text with its letters folded, so that texts which compare as equal are the same bytes.
 std::string foldLatin(std::string_view text);
 
-// The first character of a text that is not empty.
+// Whether the character is an accent that stands behind its letter.
+constexpr bool isAccent(char32_t character) {
+  return character >= 0x300 && character <= 0x36F;
+}
+// Whether such an accent stands in the text.
+bool hasAccent(std::string_view text);
+
+// The first character of a text that is not empty, without accents that stand behind it.
 struct LatinCharacter {
   std::size_t bytes = 0;
   char32_t folded = 0;  // as foldLatin changes it

@@ -13,9 +13,12 @@ namespace {
 // Beginnings that differ in their accents only; beyond that many the statement itself is run.
 constexpr std::size_t kMostHeads = 64;
 const char kFirstNonAscii = '\x80';
+const char kFirstAccent = '\xCC';
+const char kBehindAccents = '\xCE';
 const char kBehindAll = '\xFF';
 
-// Raised and caught here alone.
+// What only the statement itself can judge, accents behind their letters among it. Raised and
+// caught here alone.
 struct Unknown {};
 
 // One state of the file for all look-ups, and its lock taken once.
@@ -104,7 +107,12 @@ class Search {
     }
     const auto* const bytes =
         reinterpret_cast<const char*>(sqlite3_column_text(statement.raw(), 0));
-    return std::string(bytes, static_cast<std::size_t>(sqlite3_column_bytes(statement.raw(), 0)));
+    const std::string text(bytes,
+                           static_cast<std::size_t>(sqlite3_column_bytes(statement.raw(), 0)));
+    if (hasAccent(text)) {
+      throw Unknown();
+    }
+    return text;
   }
 
   void bindText(const Statement& statement, int index, const std::string& text) const {
@@ -150,6 +158,7 @@ class Search {
       const LatinCharacter letter = following(prefix, 0);
       std::vector<Head> longer;
       for (const Head& head : heads) {
+        lookForAccents(head, letter);
         if (letter.folded < 0x80) {
           longer.push_back({head.text + static_cast<char>(letter.folded), letter.base});
         }
@@ -159,6 +168,14 @@ class Search {
       prefix.remove_prefix(letter.bytes);
     }
     return heads;
+  }
+
+  // The letter can stand in the file with its accent behind it, where the index does not have it.
+  void lookForAccents(const Head& head, const LatinCharacter& letter) const {
+    if (letter.base < 0x80 && letter.base != letter.folded) {
+      const std::string plain = head.text + static_cast<char>(letter.base);
+      seek(first_, plain + kFirstAccent, plain + kBehindAccents);
+    }
   }
 
   static void append(std::vector<Head>& heads, std::vector<Head> more) {
