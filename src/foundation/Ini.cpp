@@ -14,8 +14,8 @@ void Grava_ini(const QString& secao, const QString& chave, const QString& valor,
   writeKey(nativePath(arquivo), secao, chave, valor);
 }
 
-void Grava_ini(const QString& secao, const std::vector<KeyValue>& chaves, const QString& arquivo) {
-  writeKeys(nativePath(arquivo), secao, chaves);
+void Grava_ini(const std::vector<KeyValue>& chaves, const QString& arquivo) {
+  writeKeys(nativePath(arquivo), chaves);
 }
 
 QString Le_config(const QString& secao, const QString& chave) {

@@ -13,11 +13,11 @@ namespace quartela {
 // regard to case.
 QString Le_ini(const QString& secao, const QString& chave, const QString& arquivo);
 
-// Write keys of one section, creating section and file as needed, in one rewriting of the file.
+// Write keys, creating sections and file as needed, in one rewriting of the file.
 // Raise error 75 (or 61, 70, 76) when the file cannot be written; it is then as it was.
 void Grava_ini(const QString& secao, const QString& chave, const QString& valor,
                const QString& arquivo);
-void Grava_ini(const QString& secao, const std::vector<KeyValue>& chaves, const QString& arquivo);
+void Grava_ini(const std::vector<KeyValue>& chaves, const QString& arquivo);
 
 // The same for Config.ini in the program's folder.
 QString Le_config(const QString& secao, const QString& chave);

@@ -7,9 +7,11 @@
 
 #include "foundation/Ini.h"
 #include "platform/values/Clock.h"
+#include "tests/platform/files/NoMoreFiles.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/office/Boxes.h"
+#include "tests/support/office/Samples.h"
 
 namespace quartela {
 namespace {
@@ -37,8 +39,10 @@ class NumeracaoTest : public QObject {
     };
     QTest::newRow("goes on") << file("2014", "4") << "000514" << file("2014", "4");
     QTest::newRow("first of the year") << file("2014", "0") << "000114" << file("2014", "0");
-    QTest::newRow("new year") << file("2013", "88") << "000114" << file("2014", "0");
-    QTest::newRow("several years later") << file("1999", "88") << "000114" << file("2014", "0");
+    QTest::newRow("new year") << file("2013", "88") << "000114"
+                              << file("2014", "0") + "[Anterior]\nano=2013\nnumber=88\n";
+    QTest::newRow("several years later") << file("1999", "88") << "000114"
+                                         << file("2014", "0") + "[Anterior]\nano=1999\nnumber=88\n";
     QTest::newRow("year left empty") << file("", "88") << "000114" << file("2014", "0");
     QTest::newRow("a number of four digits")
         << file("2014", "0099") << "010014" << file("2014", "0099");
@@ -76,6 +80,89 @@ class NumeracaoTest : public QObject {
              QStringLiteral("2014"));
     QCOMPARE(Le_ini(QStringLiteral("Contador"), QStringLiteral("number"), path()),
              QStringLiteral("0"));
+  }
+
+  // The clock was a year ahead when a process was begun and given up.
+  void aClockThatWasAheadCostsNoNumber() {
+    write("[Contador]\nano=2014\nnumber=327\n");
+    test::ScriptedDialogs dialogs;
+    QLineEdit box;
+    Clock::stopAt(DateTime::of(2015, 11, 21));
+    Novo_item(box, path());
+    QCOMPARE(box.text(), QStringLiteral("000115"));
+    Clock::stopAt(DateTime::of(2014, 11, 21));
+    Novo_item(box, path());
+    QCOMPARE(box.text(), QStringLiteral("032814"));
+    QCOMPARE(key("ano"), QStringLiteral("2014"));
+    QCOMPARE(key("number"), QStringLiteral("327"));
+  }
+
+  // But a number of the later year has been given.
+  void aClockThatWasAheadWhileSavingStopsTheNumbering() {
+    write("[Contador]\nano=2015\nnumber=1\n[Anterior]\nano=2014\nnumber=327\n");
+    test::ScriptedDialogs dialogs;
+    dialogs.expectBox(
+        {.text = QStringLiteral("Erro no relógio do micro ou o arquivo INI está adulterado.")});
+    QLineEdit box;
+    Novo_item(box, path());
+    QCOMPARE(box.text(), QString());
+  }
+
+  void aFileWithoutANumberIsTold_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("zeros") << QByteArray(40, '\0');
+    QTest::newRow("another file") << QByteArray("[Diretorio]\ncaminho=Banco.mdb\n");
+    QTest::newRow("cut short") << QByteArray("[Contador]\nan");
+  }
+  void aFileWithoutANumberIsTold() {
+    QFETCH(QByteArray, content);
+    write(content);
+    QLineEdit box(QStringLiteral("antes"));
+    test::ScriptedDialogs dialogs;
+    dialogs.expectBox({.text = QStringLiteral("Houve um erro interno:") + test::kAnything + path() +
+                               QStringLiteral("\" existe, mas não traz ano nem número.") +
+                               test::kAnything,
+                       .icon = BoxIcon::Exclamation});
+    Novo_item(box, path());
+    QCOMPARE(box.text(), QStringLiteral("antes"));
+    QCOMPARE(read(), content);
+  }
+
+  void aFileThatCannotBeOpenedIsTold() {
+    const QByteArray content("[Contador]\nano=2014\nnumber=327\n");
+    write(content);
+    QLineEdit box(QStringLiteral("antes"));
+    test::ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::internalError(ErrorNumber::PathFileAccess, kLabel, path()));
+    {
+      const test::NoMoreFiles none;
+      Novo_item(box, path());
+    }
+    QCOMPARE(box.text(), QStringLiteral("antes"));
+    QCOMPARE(read(), content);
+  }
+
+  void theCounterPassesTheTable_data() {
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QString>("number");
+    QTest::newRow("behind") << QByteArray("[Contador]\nano=2014\nnumber=4\n") << "032814";
+    QTest::newRow("far ahead") << QByteArray("[Contador]\nano=2014\nnumber=400\n") << "040114";
+    QTest::newRow("of last year") << QByteArray("[Contador]\nano=2013\nnumber=9\n") << "032814";
+  }
+  void theCounterPassesTheTable() {
+    QFETCH(QByteArray, before);
+    QFETCH(QString, number);
+    test::Office office;
+    test::addMasterRows(office);
+    office.run(
+        "INSERT INTO Requisicao (SEQ, ORGAO, TOMADOR, FINALIDADE) VALUES"
+        " (514, 1, 1, 1), (32714, 1, 1, 1), (99913, 1, 1, 1), (40015, 1, 1, 1)");
+    write(before);
+    Avanca_contador(path());
+    QLineEdit box;
+    Novo_item(box, path());
+    QCOMPARE(box.text(), number);
   }
 
   void aClockSetBackStopsTheNumbering() {
@@ -127,6 +214,9 @@ class NumeracaoTest : public QObject {
     QFile file(path());
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(content);
+  }
+  QString key(const char* name) const {
+    return Le_ini(QStringLiteral("Contador"), QLatin1String(name), path());
   }
   QByteArray read() const {
     QFile file(path());

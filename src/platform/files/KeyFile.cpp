@@ -210,21 +210,26 @@ void KeyFile::becomeUtf8() {
 }
 
 QString readKey(const QString& path, const QString& section, const QString& key) {
-  const auto bytes = readWhole(path, KeyFile::kLargestFile);
-  return bytes ? KeyFile(*bytes).value(section, key) : QString();
+  const auto file = readKeyFile(path);
+  return file ? file->value(section, key) : QString();
 }
 
-void writeKeys(const QString& path, const QString& section, const std::vector<KeyValue>& keys) {
-  KeyFile file(readWhole(path, KeyFile::kLargestFile).value_or(QByteArray()));
+std::optional<KeyFile> readKeyFile(const QString& path) {
+  const auto bytes = readWhole(path, KeyFile::kLargestFile);
+  return bytes ? std::optional<KeyFile>(*bytes) : std::nullopt;
+}
+
+void writeKeys(const QString& path, const std::vector<KeyValue>& keys) {
+  KeyFile file = readKeyFile(path).value_or(KeyFile());
   for (const KeyValue& key : keys) {
-    file.setValue(section, key.key, key.value);
+    file.setValue(key.section, key.key, key.value);
   }
   replaceFile(path, file.bytes(), NewFile::Office);
 }
 
 void writeKey(const QString& path, const QString& section, const QString& key,
               const QString& value) {
-  writeKeys(path, section, {{key, value}});
+  writeKeys(path, {{section, key, value}});
 }
 
 }  // namespace quartela

@@ -75,15 +75,19 @@ class KeyFile {
 // kLargestFile: what cannot be read is not empty.
 QString readKey(const QString& path, const QString& section, const QString& key);
 
+// The whole file as readKey() reads it; nothing when there is none.
+std::optional<KeyFile> readKeyFile(const QString& path);
+
 struct KeyValue {
+  QString section;
   QString key;
   QString value;
 };
 
-// Sets keys of one section of the file at `path`, making the file where there is none (for its
-// owner and group alone); all of them or none. Errors as of replaceFile, KeyFile::setValue and
-// readKey; the file is then as it was.
-void writeKeys(const QString& path, const QString& section, const std::vector<KeyValue>& keys);
+// Sets keys of the file at `path`, making the file where there is none (for its owner and group
+// alone); all of them or none. Errors as of replaceFile, KeyFile::setValue and readKey; the file is
+// then as it was.
+void writeKeys(const QString& path, const std::vector<KeyValue>& keys);
 void writeKey(const QString& path, const QString& section, const QString& key,
               const QString& value);
 

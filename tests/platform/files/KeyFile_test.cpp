@@ -344,16 +344,17 @@ void KeyFileTest::tellsWhenNoFileCanBeOpened() {
 void KeyFileTest::setsSeveralKeysAtOnce() {
   const QString file = fileWith("[Contador]\nano=2013\nnumber=327\n");
   const QString s = QStringLiteral("contador");
-  writeKeys(file, s,
-            {{QStringLiteral("ano"), QStringLiteral("2014")},
-             {QStringLiteral("number"), QStringLiteral("1")}});
-  QCOMPARE(content(file), QByteArray("[Contador]\nano=2014\nnumber=1\n"));
+  writeKeys(file, {{s, QStringLiteral("ano"), QStringLiteral("2014")},
+                   {s, QStringLiteral("number"), QStringLiteral("1")},
+                   {QStringLiteral("Anterior"), QStringLiteral("ano"), QStringLiteral("2013")}});
+  const QByteArray after("[Contador]\nano=2014\nnumber=1\n[Anterior]\nano=2013\n");
+  QCOMPARE(content(file), after);
   QCOMPARE(errorOf([&] {
-             writeKeys(file, s,
-                       {{QStringLiteral("ano"), QStringLiteral("2015")}, {QString(), QString()}});
+             writeKeys(file, {{s, QStringLiteral("ano"), QStringLiteral("2015")},
+                              {s, QString(), QString()}});
            }),
            5);
-  QCOMPARE(content(file), QByteArray("[Contador]\nano=2014\nnumber=1\n"));
+  QCOMPARE(content(file), after);
 }
 
 void KeyFileTest::isForOwnerAndGroupAlone() {
