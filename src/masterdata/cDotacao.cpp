@@ -36,7 +36,9 @@ void cDotacao::Grava_campos() const {
 }
 
 void cDotacao::Del_Dotacao() {
-  Exclui_registro(QStringLiteral("DELETE FROM Dotacao where ID = ") + QString::number(Ordem));
+  Exclui_registro({.tabela = QStringLiteral("Dotacao"),
+                   .apaga = QStringLiteral("DELETE FROM Dotacao where "),
+                   .condicao = QStringLiteral("ID = ") + QString::number(Ordem)});
 }
 
 void cDotacao::Lista_Dotacao(ListView& lista, std::int16_t modo) {

@@ -47,7 +47,9 @@ void cExecutor::Grava_campos() const {
 }
 
 void cExecutor::Del_executor() {
-  Exclui_registro(QStringLiteral("DELETE FROM Executor where ORDEM = ") + QString::number(Ordem));
+  Exclui_registro({.tabela = QStringLiteral("Executor"),
+                   .apaga = QStringLiteral("DELETE FROM Executor where "),
+                   .condicao = QStringLiteral("ORDEM = ") + QString::number(Ordem)});
 }
 
 void cExecutor::Lista_Executor(ListView& lista, std::int16_t modo) {

@@ -38,7 +38,9 @@ void cInciso::Grava_campos() const {
 }
 
 void cInciso::Del_inciso() {
-  Exclui_registro(QStringLiteral("DELETE FROM Inciso where ID = ") + QString::number(ID));
+  Exclui_registro({.tabela = QStringLiteral("Inciso"),
+                   .apaga = QStringLiteral("DELETE FROM Inciso where "),
+                   .condicao = QStringLiteral("ID = ") + QString::number(ID)});
 }
 
 void cInciso::Lista_Inciso(ListView& lista) {

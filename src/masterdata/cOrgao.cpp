@@ -23,7 +23,9 @@ bool cOrgao::Save_Orgao(std::int16_t operacao) {
 }
 
 void cOrgao::Del_Orgao() {
-  Exclui_registro(QStringLiteral("DELETE FROM Orgao where IDORGAO = ") + QString::number(ID));
+  Exclui_registro({.tabela = QStringLiteral("Orgao"),
+                   .apaga = QStringLiteral("DELETE FROM Orgao where "),
+                   .condicao = QStringLiteral("IDORGAO = ") + QString::number(ID)});
 }
 
 void cOrgao::Lista_Orgao(ListView& lista, std::int16_t modo) {

@@ -21,7 +21,9 @@ bool cTipoDespesa::Save_Finalidade(std::int16_t operacao) {
 }
 
 void cTipoDespesa::Del_Finalidade() {
-  Exclui_registro(QStringLiteral("DELETE FROM Finalidade where ID = ") + QString::number(ID));
+  Exclui_registro({.tabela = QStringLiteral("Finalidade"),
+                   .apaga = QStringLiteral("DELETE FROM Finalidade where "),
+                   .condicao = QStringLiteral("ID = ") + QString::number(ID)});
 }
 
 void cTipoDespesa::Lista_Finalidade(ListView& lista, std::int16_t modo) {

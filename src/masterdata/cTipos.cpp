@@ -42,8 +42,9 @@ void cTipos::Grava_campos() const {
 }
 
 void cTipos::Del_tipos() {
-  Exclui_registro(QStringLiteral("DELETE FROM Tipos where SEQUENCIA = ") +
-                  QString::number(Sequencia));
+  Exclui_registro({.tabela = QStringLiteral("Tipos"),
+                   .apaga = QStringLiteral("DELETE FROM Tipos where "),
+                   .condicao = QStringLiteral("SEQUENCIA = ") + QString::number(Sequencia)});
 }
 
 void cTipos::Lista_Tipos(ListView& lista, std::int16_t modo) {

@@ -45,7 +45,9 @@ void cTomador::Grava_campos() const {
 }
 
 void cTomador::Del_Tomador() {
-  Exclui_registro(QStringLiteral("DELETE FROM Tomador where ID = ") + QString::number(Ordem));
+  Exclui_registro({.tabela = QStringLiteral("Tomador"),
+                   .apaga = QStringLiteral("DELETE FROM Tomador where "),
+                   .condicao = QStringLiteral("ID = ") + QString::number(Ordem)});
 }
 
 void cTomador::Lista_Tomador(ListView& lista, std::int16_t modo) {

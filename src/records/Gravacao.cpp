@@ -1,16 +1,32 @@
 #include "records/Gravacao.h"
 
+#include <array>
+#include <vector>
+
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
 #include "foundation/Leitura.h"
 #include "foundation/Status.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Convert.h"
+#include "records/Mudancas.h"
 
 namespace quartela {
 namespace {
 
 const QString kAviso = QStringLiteral("Aviso");
+
+// The rows that the database deletes together with the one that they belong to.
+struct Dependencia {
+  const char* dona;
+  const char* chave;
+  const char* tabela;
+  const char* coluna;
+};
+constexpr std::array kDependencias{
+    Dependencia{"Requisicao", "SEQ", "Adiantamento", "PROCESSO"},
+    Dependencia{"Adiantamento", "EMPENHO", "PrestContas", "PROCESSO"},
+};
 
 bool confirma(std::int16_t codigo, const Gravacao& gravacao) {
   if (codigo != kInclusao) {
@@ -20,29 +36,79 @@ bool confirma(std::int16_t codigo, const Gravacao& gravacao) {
          Dialogs::confirm(QStringLiteral("Confirma inclusão do novo registro?"), kAviso);
 }
 
-void grava_linha(std::int16_t codigo, const Gravacao& gravacao) {
+// A row that is being written: when an error leaves, it is given up with its lock before anybody is
+// told, so that no other program waits for the operator to read.
+class LinhaIniciada {
+ public:
+  explicit LinhaIniciada(Recordset& linhas) : linhas_(linhas) {}
+  LinhaIniciada(const LinhaIniciada&) = delete;
+  LinhaIniciada& operator=(const LinhaIniciada&) = delete;
+  ~LinhaIniciada() { linhas_.cancelUpdate(); }
+
+ private:
+  Recordset& linhas_;
+};
+
+QMap<QString, Value> campos(const Recordset& linhas) {
+  QMap<QString, Value> todos;
+  for (int n = 0; n < linhas.fieldCount(); ++n) {
+    todos.insert(linhas.fieldName(n), linhas.field(n));
+  }
+  return todos;
+}
+
+Value chave_de(const QString& tabela, const QMap<QString, Value>& linha) {
+  for (const CatalogueColumn& coluna : Conexao->catalogue().table(tabela)->columns) {
+    if (coluna.primaryKey) {
+      return linha.value(coluna.name);
+    }
+  }
+  return {};
+}
+
+Recordset& abre_para_gravar(bool inclusao, const Gravacao& gravacao) {
+  if (gravacao.linhas != nullptr) {
+    return *gravacao.linhas;
+  }
   if (Tabela.state() == Recordset::Open) {
     Tabela.close();
   }
-  const bool inclusao = codigo == kInclusao;
   Tabela.open(inclusao ? gravacao.tabela : gravacao.selecao, *Conexao, CursorType::Static,
               LockType::Pessimistic);
-  const LinhaIniciada linha;
+  return Tabela;
+}
+
+void escreve(bool inclusao, const Gravacao& gravacao, Recordset& linhas) {
+  const LinhaIniciada linha(linhas);
+  const bool observada = ha_quem_observe();
+  Mudanca mudanca{.especie = inclusao ? Mudanca::Especie::Inclusao : Mudanca::Especie::Alteracao,
+                  .tabela = gravacao.tabela,
+                  .chave = {},
+                  .antes = {},
+                  .depois = {}};
   if (inclusao) {
-    Tabela.addNew();
+    linhas.addNew();
+  } else if (observada && !linhas.eof()) {
+    mudanca.antes = campos(linhas);
   }
   gravacao.grava_campos();
-  Tabela.update();
-  Tabela.close();
-  if (inclusao && gravacao.numero != nullptr) {
-    Le_tabela(QStringLiteral("SELECT @@IDENTITY"),
-              [&] { *gravacao.numero = Convert::toI32(Tabela.field(0)); });
+  linhas.update();
+  if (observada) {
+    mudanca.depois = campos(linhas);
+    mudanca.chave = chave_de(gravacao.tabela, mudanca.depois);
+    conta_mudanca(mudanca);
   }
+}
+
+void le_numero_dado(std::int32_t& numero) {
+  Recordset identidade;
+  identidade.open(QStringLiteral("SELECT @@IDENTITY"), *Conexao);
+  numero = Convert::toI32(identidade.field(0));
 }
 
 bool grava_ou_avisa(std::int16_t codigo, const Gravacao& gravacao) {
   try {
-    grava_linha(codigo, gravacao);
+    Grava_linha(codigo, gravacao);
     return true;
   } catch (const RuntimeError& erro) {
     Erro_gravacao(erro);
@@ -50,16 +116,46 @@ bool grava_ou_avisa(std::int16_t codigo, const Gravacao& gravacao) {
   }
 }
 
-void executa_em_transacao(const QString& comando) {
-  Conexao->beginTransaction();
-  Conexao->execute(comando);
-  Conexao->commit();
-}
-
 void desfaz() {
   if (Conexao->inTransaction()) {
     Conexao->rollback();
   }
+}
+
+void le_que_vao(const QString& tabela, const QString& condicao, bool arrastada,
+                std::vector<Mudanca>& vao) {
+  Recordset linhas;
+  linhas.open(QStringLiteral("SELECT * FROM ") + tabela + QStringLiteral(" WHERE ") + condicao,
+              *Conexao);
+  for (; !linhas.eof(); linhas.moveNext()) {
+    const QMap<QString, Value> linha = campos(linhas);
+    vao.push_back({.especie = Mudanca::Especie::Exclusao,
+                   .tabela = tabela,
+                   .chave = chave_de(tabela, linha),
+                   .antes = linha,
+                   .depois = {},
+                   .arrastada = arrastada});
+    for (const Dependencia& outra : kDependencias) {
+      if (tabela == QLatin1String(outra.dona)) {
+        const QString dona = Convert::toText(linha.value(QLatin1String(outra.chave)));
+        le_que_vao(QLatin1String(outra.tabela),
+                   QLatin1String(outra.coluna) + QStringLiteral(" = ") + dona, true, vao);
+      }
+    }
+  }
+}
+
+void apaga(const Exclusao& exclusao) {
+  Conexao->beginTransaction();
+  std::vector<Mudanca> vao;
+  if (ha_quem_observe()) {
+    le_que_vao(exclusao.tabela, exclusao.condicao, false, vao);
+  }
+  Conexao->execute(exclusao.apaga + exclusao.condicao);
+  for (const Mudanca& mudanca : vao) {
+    conta_mudanca(mudanca);
+  }
+  Conexao->commit();
 }
 
 void avisa_exclusao() {
@@ -71,8 +167,33 @@ void avisa_exclusao() {
 
 }  // namespace
 
-LinhaIniciada::~LinhaIniciada() {
-  Tabela.cancelUpdate();
+void Em_transacao(const std::function<void()>& corpo) {
+  if (Conexao->inTransaction()) {
+    corpo();
+    return;
+  }
+  Conexao->beginTransaction();
+  try {
+    corpo();
+    Conexao->commit();
+  } catch (...) {
+    desfaz();
+    throw;
+  }
+}
+
+void Grava_linha(std::int16_t codigo, const Gravacao& gravacao) {
+  const bool inclusao = codigo == kInclusao;
+  Recordset& linhas = abre_para_gravar(inclusao, gravacao);
+  Em_transacao([&] {
+    escreve(inclusao, gravacao, linhas);
+    if (inclusao && gravacao.numero != nullptr) {
+      le_numero_dado(*gravacao.numero);
+    }
+  });
+  if (gravacao.linhas == nullptr) {
+    linhas.close();
+  }
 }
 
 Desfecho Tenta_salvar(std::int16_t codigo, const Gravacao& gravacao) {
@@ -96,19 +217,22 @@ bool Salva_calado(const Gravacao& gravacao) {
   return grava_ou_avisa(kInclusao, gravacao);
 }
 
-void Exclui_registro(const QString& comando, OrdemDesfaz ordem, AvisoExclusao aviso) {
+void Exclui_registro(const Exclusao& exclusao) {
   try {
-    executa_em_transacao(comando);
+    apaga(exclusao);
     Animacao_exclusao();
-    if (aviso == AvisoExclusao::TresLinhas) {
+    if (exclusao.aviso == AvisoExclusao::TresLinhas) {
       avisa_exclusao();
     }
   } catch (const RuntimeError& erro) {
-    if (ordem == OrdemDesfaz::AntesDaCaixa) {
+    if (exclusao.ordem == OrdemDesfaz::AntesDaCaixa) {
       desfaz();
     }
     Erro_gravacao(erro);
     desfaz();
+  } catch (...) {
+    desfaz();
+    throw;
   }
 }
 

@@ -1,5 +1,6 @@
-// The saving and the deleting of one row, as every record class does them: the question, the write
-// through the shared recordset, the word to the operator, the error box.
+// The one writer: every row of the database is added, altered and deleted here, with the question,
+// the word to the operator and the error box that go with it. Each write is one transaction, or
+// part of the one that Em_transacao has begun, and is told to those who observe (records/Mudancas).
 #pragma once
 
 #include <QString>
@@ -8,27 +9,22 @@
 
 namespace quartela {
 
+class Recordset;
+
 // The operation code of a save: 1 is an inclusion, every other value an alteration.
 inline constexpr std::int16_t kInclusao = 1;
 inline constexpr std::int16_t kAlteracao = 2;
 
-// A row of Tabela that is being written: when an error leaves, it is given up with its lock before
-// anybody is told, so that no other program waits for the operator to read.
-class LinhaIniciada {
- public:
-  LinhaIniciada() = default;
-  LinhaIniciada(const LinhaIniciada&) = delete;
-  LinhaIniciada& operator=(const LinhaIniciada&) = delete;
-  ~LinhaIniciada();
-};
-
 // What a class gives to the saving.
 struct Gravacao {
-  QString tabela;                      // the table to add to
+  QString tabela;                      // the table that the row belongs to
   QString selecao;                     // the select of the row to alter
-  std::function<void()> grava_campos;  // copies the properties into Tabela's current row
+  std::function<void()> grava_campos;  // copies the properties into the current row
   bool pergunta_inclusao = true;       // notes are entered in a row, without a question each
   std::int32_t* numero = nullptr;      // receives the number that the table gives a new row
+  // The rows of a class that browses: open, on the row to alter; they stay open. Without them
+  // Tabela is opened for the write and closed.
+  Recordset* linhas = nullptr;
 };
 
 // What became of a save.
@@ -43,14 +39,31 @@ bool Salva_registro(std::int16_t codigo, const Gravacao& gravacao);
 // Writes a new row with no question and no word; a failure is told.
 bool Salva_calado(const Gravacao& gravacao);
 
+// Writes the row with no question and no word. Raises what the write raises, with nothing written
+// and no lock held.
+void Grava_linha(std::int16_t codigo, const Gravacao& gravacao);
+
+// Writes what belongs together: all that `corpo` writes is kept, or nothing. Within a transaction
+// it is part of that. Raises what `corpo` and the commit raise.
+void Em_transacao(const std::function<void()>& corpo);
+
 // Whether a failed delete is rolled back before the operator is told of it, or after.
 enum class OrdemDesfaz { AntesDaCaixa, DepoisDaCaixa };
 
 // What the operator sees after a delete.
 enum class AvisoExclusao { TresLinhas, Nenhum };
 
-// Runs one DELETE in a transaction of its own, with the animation. Asks nothing.
-void Exclui_registro(const QString& comando, OrdemDesfaz ordem = OrdemDesfaz::AntesDaCaixa,
-                     AvisoExclusao aviso = AvisoExclusao::TresLinhas);
+// What a class gives to the deleting: the statement is `apaga` and `condicao` in one.
+struct Exclusao {
+  QString tabela;
+  QString apaga;     // "DELETE FROM Requisicao where "
+  QString condicao;  // "SEQ = 114"
+  OrdemDesfaz ordem = OrdemDesfaz::AntesDaCaixa;
+  AvisoExclusao aviso = AvisoExclusao::TresLinhas;
+};
+
+// Deletes the rows of the condition, and what belongs to them, in a transaction, with the
+// animation. Asks nothing.
+void Exclui_registro(const Exclusao& exclusao);
 
 }  // namespace quartela

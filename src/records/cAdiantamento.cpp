@@ -33,9 +33,10 @@ cAdiantamento& cAdiantamento::compartilhada() {
 }
 
 void cAdiantamento::Del_ad() {
-  Exclui_registro(
-      QStringLiteral("DELETE FROM Adiantamento where EMPENHO = ") + QString::number(Empenho),
-      OrdemDesfaz::DepoisDaCaixa);
+  Exclui_registro({.tabela = QStringLiteral("Adiantamento"),
+                   .apaga = QStringLiteral("DELETE FROM Adiantamento where "),
+                   .condicao = QStringLiteral("EMPENHO = ") + QString::number(Empenho),
+                   .ordem = OrdemDesfaz::DepoisDaCaixa});
 }
 
 void cAdiantamento::Save_ad(std::int16_t codigo) {
@@ -106,20 +107,21 @@ bool cAdiantamento::Encerra_adiantamento() {
                     "Select EMPENHO, FECHAMENTO, DEVOLUCAO, DATADEV From Adiantamento "
                     "WHERE EMPENHO =") +
                 QString::number(Empenho);
-    Tabela.close();
-    Tabela.open(Sql_atual, *Conexao, CursorType::Static, LockType::Pessimistic);
-    const LinhaIniciada linha;
     if (Datadev == Value("")) {
       Datadev = Value();
     }
-    Tabela.setField(u"FECHAMENTO", Fechamento);
-    Tabela.setField(u"DEVOLUCAO", Devolucao);
-    Tabela.setField(u"DATADEV", Datadev);
-    Tabela.update();
+    Grava_linha(kAlteracao, {.tabela = QStringLiteral("Adiantamento"),
+                             .selecao = Sql_atual,
+                             .grava_campos = [this] { Grava_encerramento(); }});
     gravado = true;
-    Tabela.close();
   });
   return gravado;
+}
+
+void cAdiantamento::Grava_encerramento() const {
+  Tabela.setField(u"FECHAMENTO", Fechamento);
+  Tabela.setField(u"DEVOLUCAO", Devolucao);
+  Tabela.setField(u"DATADEV", Datadev);
 }
 
 void cAdiantamento::Dados_Planilha() {

@@ -63,6 +63,7 @@ class cAdiantamento {
 
  private:
   void Grava_campos() const;
+  void Grava_encerramento() const;
   void Le_planilha();
 
   Money valor_;

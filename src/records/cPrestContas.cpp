@@ -59,13 +59,18 @@ void cPrestContas::Grava_campos() const {
 }
 
 void cPrestContas::Del_prest() {
-  Exclui_registro(QStringLiteral("DELETE FROM PrestContas where SEQ = ") + QString::number(Seq));
+  Exclui_registro({.tabela = QStringLiteral("PrestContas"),
+                   .apaga = QStringLiteral("DELETE FROM PrestContas where "),
+                   .condicao = QStringLiteral("SEQ = ") + QString::number(Seq)});
 }
 
 void cPrestContas::Del_prest_todos() {
-  Sql_atual =
-      QStringLiteral("DELETE From PrestContas WHERE PROCESSO =") + QString::number(processo);
-  Exclui_registro(Sql_atual, OrdemDesfaz::AntesDaCaixa, AvisoExclusao::Nenhum);
+  const Exclusao todas{.tabela = QStringLiteral("PrestContas"),
+                       .apaga = QStringLiteral("DELETE From PrestContas WHERE "),
+                       .condicao = QStringLiteral("PROCESSO =") + QString::number(processo),
+                       .aviso = AvisoExclusao::Nenhum};
+  Sql_atual = todas.apaga + todas.condicao;
+  Exclui_registro(todas);
 }
 
 Money cPrestContas::Lista_Prest(ListView& lista) {

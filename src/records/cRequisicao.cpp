@@ -28,7 +28,9 @@ void cRequisicao::Grava_campos() const {
 }
 
 void cRequisicao::Del_req() {
-  Exclui_registro(QStringLiteral("DELETE FROM Requisicao where SEQ = ") + QString::number(Seq));
+  Exclui_registro({.tabela = QStringLiteral("Requisicao"),
+                   .apaga = QStringLiteral("DELETE FROM Requisicao where "),
+                   .condicao = QStringLiteral("SEQ = ") + QString::number(Seq)});
 }
 
 bool cRequisicao::Verifica_registro() {
