@@ -319,7 +319,6 @@ CREATE INDEX Inciso_TIPO ON Inciso (TIPO);
 CREATE INDEX Dotacao_IDTIPO_ANO ON Dotacao (IDTIPO, ANO);
 CREATE INDEX Dotacao_IDORGAO ON Dotacao (IDORGAO);
 CREATE INDEX Dotacao_DOTACAO ON Dotacao (DOTACAO);
-CREATE INDEX Requisicao_DATA ON Requisicao (DATA);
 CREATE INDEX Requisicao_ORGAO ON Requisicao (ORGAO);
 CREATE INDEX Requisicao_TOMADOR_FINALIDADE ON Requisicao (TOMADOR, FINALIDADE);
 CREATE INDEX Requisicao_FINALIDADE ON Requisicao (FINALIDADE);
@@ -328,7 +327,7 @@ CREATE INDEX Adiantamento_ABERTURA ON Adiantamento (ABERTURA);
 CREATE INDEX Adiantamento_FECHAMENTO_FECHAR_EM ON Adiantamento (FECHAMENTO, FECHAR_EM);
 CREATE INDEX PrestContas_PROCESSO_DATA_SEQ ON PrestContas (PROCESSO, DATA, SEQ);
 CREATE INDEX PrestContas_ID_VIAGEM_DATA ON PrestContas (ID_VIAGEM, DATA);
--- In the order in which the proposals for a history are looked up.
+-- In the order in which the proposals for a text that is being typed are looked up.
 CREATE INDEX PrestContas_HISTORICO ON PrestContas (HISTORICO COLLATE NOCASE);
 CREATE INDEX ReqAvulso_ORGAO ON ReqAvulso (ORGAO);
 CREATE INDEX ReqAvulso_TOMADOR ON ReqAvulso (TOMADOR);
@@ -336,5 +335,4 @@ CREATE INDEX ReqAvulso_FINALIDADE ON ReqAvulso (FINALIDADE);
 CREATE INDEX Viagem_PROCESSO ON Viagem (PROCESSO);
 CREATE INDEX IdentificaTransp_PROCESSO_PLANILHA ON IdentificaTransp (PROCESSO, PLANILHA);
 CREATE INDEX ItensTransp_IDENT_TRANSP_DATADOC ON ItensTransp (IDENT_TRANSP, DATADOC);
-CREATE INDEX Cidades_uf_nome ON Cidades (uf, nome);
-CREATE INDEX Cidades_nome ON Cidades (nome);
+CREATE INDEX Cidades_nome ON Cidades (nome COLLATE NOCASE);

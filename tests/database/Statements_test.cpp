@@ -8,6 +8,8 @@
 
 #include "platform/database/Connection.h"
 #include "platform/database/Recordset.h"
+#include "platform/database/dialect/Dialect.h"
+#include "platform/database/engines/sqlite/Session.h"
 #include "platform/values/Clock.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/database/PlainDatabase.h"
@@ -157,6 +159,7 @@ class StatementsTest : public QObject {
   void initTestCase();
   void selects_data();
   void selects();
+  void everyIndexServes();
   void deletes_data();
   void deletes();
   void deletionCanBeRolledBack();
@@ -168,6 +171,7 @@ class StatementsTest : public QObject {
   void searchesFindSomething();
 
  private:
+  QStringList planOf(const QString& statement);
   void checkHead(const Recordset& records, const PlainRows& plain);
   void checkRows(const QList<QStringList>& found, const QList<QStringList>& expected,
                  const StatementCase& one);
@@ -243,6 +247,52 @@ void StatementsTest::checkRows(const QList<QStringList>& found, const QList<QStr
   std::sort(left.begin(), left.end());
   std::sort(right.begin(), right.end());
   QCOMPARE(left, right);
+}
+
+// An index that no statement and no relation looks up costs every write and gives nothing.
+void StatementsTest::everyIndexServes() {
+  selects_data();
+  QStringList idle;
+  for (const QStringList& index :
+       plain_->query("SELECT name FROM sqlite_schema WHERE type = 'index' AND sql IS NOT NULL")
+           .rows) {
+    idle << index.first();
+  }
+  QVERIFY(!idle.isEmpty());
+  for (const QStringList& index :
+       plain_
+           ->query("SELECT i.name FROM sqlite_schema t, pragma_foreign_key_list(t.name) f, "
+                   "pragma_index_list(t.name) i, pragma_index_info(i.name) c "
+                   "WHERE t.type = 'table' AND c.seqno = 0 AND c.name = f.\"from\"")
+           .rows) {
+    idle.removeAll(index.first());
+  }
+  for (const StatementCase& one : selects_) {
+    for (const QString& step : planOf(one.statement).filter(QStringLiteral("SEARCH"))) {
+      idle.removeIf([&step](const QString& index) {
+        return step.contains("INDEX " + index + " ") || step.endsWith("INDEX " + index);
+      });
+    }
+  }
+  QVERIFY2(idle.isEmpty(), qPrintable(idle.join(' ')));
+}
+
+// What the engine tells of its way to the rows; of the look-ups that stand for a statement too.
+QStringList StatementsTest::planOf(const QString& statement) {
+  sqlite3* const handle = connection_.session().handle();
+  const dialect::EngineStatement engine = dialect::translate(statement, connection_.catalogue());
+  std::vector<std::string> texts{engine.sql};
+  if (engine.leastMatch) {
+    texts.push_back(engine.leastMatch->sql);
+  }
+  QStringList steps;
+  for (const std::string& text : texts) {
+    sqlite::Statement plan(handle, "EXPLAIN QUERY PLAN " + text, sqlite::Activity::Reading);
+    while (plan.step()) {
+      steps << plan.text(3);
+    }
+  }
+  return steps;
 }
 
 void StatementsTest::deletes_data() {

@@ -51,7 +51,6 @@ constexpr std::array kEntries{
     Entry{ErrorNumber::ColumnNotFound, "O campo pedido não existe no resultado."},
     Entry{ErrorNumber::ColumnRequired, "Um campo obrigatório não foi preenchido."},
     Entry{ErrorNumber::ValueRefused, "O valor não é aceito por este campo."},
-    Entry{ErrorNumber::UnrecognisedFormat, "O arquivo não é um banco de dados do Quartela."},
     Entry{ErrorNumber::OperandMismatch, "A consulta compara valores de tipos diferentes."},
     Entry{ErrorNumber::ObjectClosed, "O banco de dados não está aberto."},
     Entry{ErrorNumber::ObjectOpen, "O banco de dados já está aberto."},

@@ -40,7 +40,6 @@ enum class ErrorNumber : int {
   ColumnNotFound = 3265,
   ColumnRequired = 3314,
   ValueRefused = 3317,
-  UnrecognisedFormat = 3343,
   OperandMismatch = 3464,
   ObjectClosed = 3704,
   ObjectOpen = 3705,

@@ -45,7 +45,6 @@ constexpr Known kKnown[] = {
     {ErrorNumber::ColumnNotFound, 3265},
     {ErrorNumber::ColumnRequired, 3314},
     {ErrorNumber::ValueRefused, 3317},
-    {ErrorNumber::UnrecognisedFormat, 3343},
     {ErrorNumber::OperandMismatch, 3464},
     {ErrorNumber::ObjectClosed, 3704},
     {ErrorNumber::ObjectOpen, 3705},
