@@ -31,6 +31,10 @@ DROP TABLE IdentificaTransp;
 ALTER TABLE IdentificaTransp_nova RENAME TO IdentificaTransp;
 CREATE INDEX IdentificaTransp_PROCESSO_PLANILHA ON IdentificaTransp (PROCESSO, PLANILHA);
 
+DROP INDEX Requisicao_DATA;
+DROP INDEX Cidades_uf_nome;
+DROP INDEX Cidades_nome;
+CREATE INDEX Cidades_nome ON Cidades (nome COLLATE NOCASE);
 UPDATE Consultas SET TEXTO = 'SELECT Dotacao.ID, Dotacao.IDTIPO, Dotacao.DOTACAO, Dotacao.ANO, Dotacao.DESCRICAO, Tipos.TIPO,
        Dotacao.IDORGAO, Orgao.ORGAO
 FROM (Dotacao LEFT JOIN Tipos ON Dotacao.IDTIPO = Tipos.SEQUENCIA)
