@@ -33,6 +33,13 @@ void cRequisicao::Del_req() {
                    .condicao = QStringLiteral("SEQ = ") + QString::number(Seq)});
 }
 
+bool cRequisicao::Numero_tomado() const {
+  Abre_consulta(QStringLiteral("SELECT SEQ FROM Requisicao WHERE SEQ =") + QString::number(Seq));
+  const bool tomado = Tabela.recordCount() >= 1;
+  Tabela.close();
+  return tomado;
+}
+
 bool cRequisicao::Verifica_registro() {
   Sql_atual =
       QStringLiteral(

@@ -23,6 +23,9 @@ class cRequisicao : public CamposRequisicao {
   // Deletes the row of Seq with all that hangs on it. The caller has asked the operator already.
   void Del_req();
 
+  // Whether the table holds a row of Seq, this one or another's. Raises what the reading raises.
+  bool Numero_tomado() const;
+
   // Whether Tomador has a requisition of type Finalidade whose advance is not closed. One without
   // an advance counts as open. Raises what the reading raises.
   bool Verifica_registro();

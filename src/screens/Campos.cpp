@@ -10,7 +10,9 @@
 #include <functional>
 #include <utility>
 
+#include "foundation/Fechamento.h"
 #include "platform/controls/DatePicker.h"
+#include "platform/controls/MoneyEdit.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Convert.h"
 
@@ -125,11 +127,11 @@ void Mostra_data(DatePicker& data, const Value& valor) {
 void ValorMostrado::mostra(MoneyEdit& campo, Money valor, const QString& texto) {
   campo.setText(texto);
   valor_ = valor;
-  mostrado_ = conteudo_valor(campo);
+  mostrado_ = Conteudo_campo(campo);
 }
 
 Money ValorMostrado::valor(const MoneyEdit& campo) const {
-  return valor_ && conteudo_valor(campo) == mostrado_ ? *valor_ : campo.value();
+  return valor_ && Conteudo_campo(campo) == mostrado_ ? *valor_ : campo.value();
 }
 
 DateTime Com_hora_carregada(const DateTime& dia, const DateTime& carregada) {

@@ -14,6 +14,7 @@
 
 #include "foundation/Fechamento.h"
 #include "platform/values/Money.h"
+#include "screens/Campos.h"
 
 class QPushButton;
 
@@ -62,6 +63,7 @@ class frmCadastro : public QWidget {
   void Carrega_dados();
   void cmdAplicar_Click();
   void avanca_contador();
+  void oferece_outro_numero();
   bool aceita_outro_aberto();
   void cmdOk_Click();
   void cmdImprimir_Click();

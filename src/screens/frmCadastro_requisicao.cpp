@@ -8,6 +8,7 @@
 #include "platform/values/Format.h"
 #include "records/Gravacao.h"
 #include "records/Impressao.h"
+#include "records/Numeracao.h"
 #include "records/Principal.h"
 #include "records/cRequisicao.h"
 #include "screens/frmCadastro.h"
@@ -47,6 +48,9 @@ void frmCadastro::cmdAplicar_Click() {
   ui_->fracadastro->preenche(requisicao);
   const bool inclui = ModoAlteracao == 0;
   if (!requisicao.Save_req(inclui ? kInclusao : kAlteracao)) {
+    if (inclui && requisicao.Numero_tomado()) {
+      oferece_outro_numero();
+    }
     return;
   }
   if (inclui) {
@@ -58,6 +62,12 @@ void frmCadastro::cmdAplicar_Click() {
   ui_->cmdOk->setEnabled(true);
   ui_->cmdImprimir->setEnabled(true);
   ui_->cmdOk->setFocus();
+}
+
+// Another desk was quicker, or the counter fell behind its table. What was typed stays.
+void frmCadastro::oferece_outro_numero() {
+  Avanca_contador(caminhos.number);
+  Novo_item(*campos().mskprocesso, caminhos.number);
 }
 
 // A counter that cannot be written is told, and leaves no screen that offers to save once more.

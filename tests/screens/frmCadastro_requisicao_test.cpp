@@ -261,17 +261,44 @@ class frmCadastroRequisicaoTest : public QObject {
     QCOMPARE(counter(), "327");
   }
 
-  void aFailedSaveIsToldAndLosesNothing() {
-    desk_->office().run("INSERT INTO Requisicao(SEQ) VALUES (32814)");
+  // Another desk has saved meanwhile, and the program has ended between a row and the counter.
+  void aNumberTakenMeanwhileGivesWayToAFreshOne() {
     desk_->openNew();
     desk_->fillRequisition();
+    QCOMPARE(desk_->text("mskprocesso"), "0328/14");
+    desk_->office().run("INSERT INTO Requisicao(SEQ) VALUES (32814), (33514), (33613), (33015)");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saveFailure(ErrorNumber::DuplicateKey, test::kAnything));
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->text("mskprocesso"), "0336/14");
+    QCOMPARE(desk_->text("mskvalor"), "1.500,50");
+    QCOMPARE(desk_->text("txtjustificativa"), "Compras miúdas");
+    QCOMPARE(desk_->enabled("cmdAplicar cmdOk cmdImprimir"), "100");
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saved());
+    desk_->click("cmdAplicar");
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask("SELECT JUSTIFICATIVA FROM Requisicao WHERE SEQ = 33614"),
+             "Compras miúdas");
+    QCOMPARE(counter(), "0336");
+  }
+
+  void aFailedSaveIsToldAndLosesNothing() {
+    desk_->openNew();
+    desk_->fillRequisition();
+    desk_->office().run(
+        "CREATE TRIGGER full BEFORE INSERT ON Requisicao BEGIN SELECT RAISE(ABORT, 'x'); END");
     ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
     dialogs.expectBox({.text = test::kAnything, .icon = BoxIcon::Stop});
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->text("mskprocesso"), "0328/14");
     QCOMPARE(desk_->text("mskvalor"), "1.500,50");
     QCOMPARE(desk_->enabled("cmdAplicar"), "1");
+    QCOMPARE(counter(), "327");
   }
 
   // The first test goes by the places in the lists: person 1 stands at place 0, and process 12 is
