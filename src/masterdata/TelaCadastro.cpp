@@ -12,6 +12,7 @@
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
+#include "foundation/Tamanho.h"
 #include "masterdata/ItemCadastro.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/TwoPageTab.h"
@@ -141,6 +142,7 @@ QWidget* TelaCadastro::monta_cadastro(QWidget& campos, const AparenciaCadastro& 
     rotulo->setMinimumWidth(rotulo->sizeHint().width() + kFolgaRotulo);
   }
   colunas->addWidget(&campos);
+  Tamanho::rola(campos);
   auto* const nota =
       new QLabel(QStringLiteral("( * ) Campos de preenchimento obrigatórios"), pagina);
   nota->setObjectName(QStringLiteral("Label_4"));

@@ -6,6 +6,7 @@
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
+#include "foundation/Tamanho.h"
 #include "masterdata/ItemCadastro.h"
 #include "masterdata/TelaCadastro.h"
 #include "masterdata/cInciso.h"
@@ -23,6 +24,8 @@ constexpr int kDigitosChave = 3;
 constexpr int kInicioNome = 6;
 constexpr int kTamanhoNome = 20;
 constexpr int kDigitosPrazo = 2;
+// Pixels: the header and some rows, also on the smallest screen.
+constexpr int kAlturaLista = 100;
 const QString kAviso = QStringLiteral("Aviso");
 
 }  // namespace
@@ -38,6 +41,8 @@ frmLei::frmLei(QWidget* parent)
   for (ComboBox* lista : {ui_->Combo1, ui_->Combo4}) {
     lista->lineEdit()->setAccessibleName(lista->accessibleName());
   }
+  Tamanho::rola(*ui_->Frame1);
+  ui_->ListView1->setMinimumHeight(kAlturaLista);
   monta_lista();
   liga();
   edita(false);

@@ -6,23 +6,52 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
+#include <functional>
 
 #include "foundation/Splash.h"
 #include "foundation/Tamanho.h"
 #include "foundation/UmaJanela.h"
+#include "foundation/frmConfigura.h"
 #include "foundation/frmLogin.h"
+#include "foundation/frmParametros.h"
+#include "masterdata/frmDotacao.h"
+#include "masterdata/frmExecutor.h"
+#include "masterdata/frmLei.h"
+#include "masterdata/frmOrgao.h"
+#include "masterdata/frmTipoDespesa.h"
+#include "masterdata/frmTipos.h"
+#include "masterdata/frmTomador.h"
+#include "platform/controls/ListView.h"
 #include "platform/controls/StatusBar.h"
 #include "records/Principal.h"
 #include "screens/frmAdiantamento.h"
+#include "screens/frmAviso.h"
 #include "screens/frmCadastro.h"
+#include "screens/frmLocalizar.h"
+#include "screens/frmProcura.h"
 #include "screens/frmReqAvulso.h"
+#include "screens/frmTab3.h"
 #include "shell/frmOficce.h"
 #include "tests/support/Folders.h"
 #include "tests/support/office/Office.h"
 #include "tests/support/office/OfficeMain.h"
 
+using Opening = std::function<QWidget&()>;
+Q_DECLARE_METATYPE(Opening)
+
 namespace quartela {
 namespace {
+
+// A list that shows its header and some rows.
+constexpr int kLeastList = 100;
+
+template <typename Window>
+Opening opening() {
+  return []() -> QWidget& {
+    UmaJanela<Window>::mostra();
+    return *UmaJanela<Window>::aberta();
+  };
+}
 
 // A title bar and the borders of a usual desktop.
 constexpr QSize kFrame(8, 36);
@@ -158,6 +187,70 @@ class SmallScreensTest : public QObject {
       QVERIFY2(!named || !bar->isVisible(), qPrintable(placeOf(*bar)));
     }
     everyFieldCanBeReached(window);
+  }
+
+  void theReferenceTables_data() {
+    QTest::addColumn<Opening>("open");
+    QTest::addColumn<QStringList>("consulting");
+    QTest::addColumn<QByteArray>("include");
+    QTest::addColumn<QStringList>("editing");
+    const QStringList consulting{"cmdProcura", "Command1_3", "Command1_1", "Command3"};
+    const QByteArray include("Command1_3");
+    const QStringList editing{"Command2", "Command1_0", "Command3"};
+    QTest::newRow("frmOrgao") << opening<frmOrgao>() << consulting << include << editing;
+    QTest::newRow("frmTipoDespesa")
+        << opening<frmTipoDespesa>() << consulting << include << editing;
+    QTest::newRow("frmExecutor") << opening<frmExecutor>() << consulting << include << editing;
+    QTest::newRow("frmTomador") << opening<frmTomador>() << consulting << include << editing;
+    QTest::newRow("frmDotacao") << opening<frmDotacao>() << consulting << include << editing;
+    QTest::newRow("frmTipos") << opening<frmTipos>()
+                              << QStringList{"cmdProcura", "Command1_0", "Command1_1", "Command1_3",
+                                             "Command2"}
+                              << QByteArray("Command1_0")
+                              << QStringList{"Command3", "Command1_2", "Command2"};
+    const QStringList clauses{"Command1_3", "Command3", "Command1_1", "Command1_0", "Command2"};
+    QTest::newRow("frmLei") << opening<frmLei>() << clauses << include << clauses;
+  }
+  void theReferenceTables() {
+    QFETCH(const Opening, open);
+    QFETCH(const QStringList, consulting);
+    QFETCH(const QByteArray, include);
+    QFETCH(const QStringList, editing);
+    QWidget& window = open();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(misfits(window, consulting), QString());
+    const auto* const list = window.findChild<QWidget*>(QStringLiteral("ListView1"));
+    QVERIFY2(list->height() >= kLeastList, qPrintable(placeOf(*list)));
+    QTest::mouseClick(window.findChild<QAbstractButton*>(QString(include)), Qt::LeftButton);
+    QCOMPARE(misfits(window, editing), QString());
+    everyFieldCanBeReached(window);
+    window.resize(400, 240);
+    QCOMPARE(misfits(window, editing), QString());
+    everyFieldCanBeReached(window);
+  }
+
+  void theSmallWindows_data() {
+    QTest::addColumn<Opening>("open");
+    QTest::addColumn<QStringList>("always");
+    QTest::newRow("frmParametros")
+        << opening<frmParametros>() << QStringList{"cmdGravar", "cmdCancelar"};
+    QTest::newRow("frmConfigura") << opening<frmConfigura>() << QStringList{"Command1"};
+    QTest::newRow("frmLocalizar") << opening<frmLocalizar>() << QStringList{"Command1"};
+    QTest::newRow("frmTab3") << opening<frmTab3>()
+                             << QStringList{"cmdVoltar", "cmdAvancar", "cmdConcluir", "Command1"};
+    QTest::newRow("frmProcura") << opening<frmProcura>()
+                                << QStringList{"txtprocura", "Command3", "Command1", "Command2"};
+    QTest::newRow("frmAviso") << opening<frmAviso>() << QStringList{"Command1"};
+  }
+  void theSmallWindows() {
+    QFETCH(const Opening, open);
+    QFETCH(const QStringList, always);
+    QWidget& window = open();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(misfits(window, always), QString());
+    if (const auto* const list = window.findChild<ListView*>()) {
+      QVERIFY2(list->height() >= kLeastList, qPrintable(placeOf(*list)));
+    }
   }
 
   // Also where the window is made smaller than any screen.
