@@ -33,6 +33,18 @@ add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_
 # 105651).
 add_compile_options($<$<CONFIG:Release>:-Wno-restrict>)
 
+# What keeps a slip from becoming a hole in what offices run; packaging/hardening.py reads it off the
+# program.
+set(QUARTELA_HARDENING -fPIE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+  list(APPEND QUARTELA_HARDENING -fcf-protection)
+endif()
+set(QUARTELA_HARDENED_LINK -pie -Wl,-z,relro,-z,now,-z,noexecstack)
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+  add_compile_options(${QUARTELA_HARDENING})
+  add_link_options(${QUARTELA_HARDENED_LINK})
+endif()
+
 if(QUARTELA_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)

@@ -1,15 +1,17 @@
 #include "database/Builder.h"
 
+#include <fcntl.h>
 #include <sqlite3.h>
 
 #include <QFile>
-#include <QFileInfo>
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <string>
 
 #include "database/EmbeddedFiles.h"
 #include "database/RowWriter.h"
+#include "platform/files/OpenFile.h"
 #include "platform/values/RuntimeError.h"
 
 namespace quartela::database {
@@ -48,12 +50,20 @@ void forEachLine(std::string_view text, Take take) {
   }
 }
 
+// A file of its own for owner and group alone, whatever stood there a moment ago.
+void createForOffice(const QString& path) {
+  constexpr mode_t kOwnerAndGroup = 0660;
+  const OpenFile file(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL,
+                      kOwnerAndGroup);
+  if (!file.isOpen()) {
+    throw RuntimeError(errno == ENOSPC ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccess, path);
+  }
+}
+
 }  // namespace
 
 NewDatabase::NewDatabase(const QString& path) : path_(path) {
-  if (QFileInfo::exists(path_)) {
-    throw RuntimeError(ErrorNumber::PathFileAccess, path_);
-  }
+  createForOffice(path_);
   try {
     open();
   } catch (...) {

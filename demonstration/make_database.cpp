@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
+#include <QTemporaryDir>
 #include <cstdio>
 
 #include "database/Builder.h"
@@ -21,9 +22,7 @@ struct Arguments {
   bool replace = false;
   quartela::demonstration::Options options;
 
-  bool asksForOneThing() const {
-    return empty.isEmpty() != demonstration.isEmpty();
-  }
+  bool asksForOneThing() const { return empty.isEmpty() != demonstration.isEmpty(); }
 };
 
 qint64 wholeNumber(const QString& text) {
@@ -89,10 +88,11 @@ void makeFile(const QString& path, bool replace, Make make) {
     make(path);
     return;
   }
-  const QString fresh = path + ".new";
-  QFile::remove(fresh);
+  const QTemporaryDir folder(path + QStringLiteral("-XXXXXX"));
+  const QString fresh = folder.filePath(QStringLiteral("novo.mdb"));
   make(fresh);
-  if (!QFile::remove(path) || !QFile::rename(fresh, path)) {
+  // One step, so that there is a whole file at the path at any time.
+  if (std::rename(QFile::encodeName(fresh).constData(), QFile::encodeName(path).constData()) != 0) {
     throw RuntimeError(ErrorNumber::PathFileAccess, path);
   }
 }

@@ -35,4 +35,6 @@ build_preset() {
     { cat "build-$preset.log"; fail "cmake --preset $preset failed (above)."; }
   mkdir -p "build/$preset" && mv "build-$preset.log" "build/$preset/configure.log"
   cmake --build --preset "$preset" || fail "The build ($preset) failed (above)."
+  [ "$preset" != release ] || packaging/hardening.py "build/$preset/bin/quartela" --fortify ||
+    fail "The program was built without its protections (above)."
 }
