@@ -42,7 +42,6 @@ QFrame#faixa QLabel#lblVersion { color: #f0bd4f; }
 QFrame#cena { background: #ffffff; border: none; }
 QLabel#lblTitulo { font-size: 14pt; font-weight: 600; color: #16375b; }
 QFrame#linha { background: #c3ccd6; border: none; max-height: 1px; }
-QMessageBox QLabel#qt_msgbox_label { min-width: 240px; }
 QToolTip { background: #ffffff; color: #1d2a38; border: 1px solid #c3ccd6; padding: 3px; }
 )";
 

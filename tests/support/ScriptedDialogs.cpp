@@ -1,10 +1,14 @@
 #include "tests/support/ScriptedDialogs.h"
 
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPrinter>
 #include <QTest>
 #include <utility>
 
+#include "platform/dialogs/InputBox.h"
 #include "platform/dialogs/ToolkitDialogs.h"
+#include "tests/support/WindowChecks.h"
 
 namespace quartela::test {
 namespace {
@@ -79,6 +83,32 @@ bool fits(const QString& expected, const QString& dialog) {
     position += piece.size();
   }
   return dialog.startsWith(pieces.first()) && dialog.endsWith(pieces.last());
+}
+
+// The smallest screen that offices have.
+constexpr QSize kScreen(1024, 768);
+
+// A field shows the whole of what it proposes.
+QString cutFields(const QWidget& dialog) {
+  constexpr int kEdges = 12;
+  QString found;
+  for (const auto* field : dialog.findChildren<const QLineEdit*>()) {
+    if (field->fontMetrics().horizontalAdvance(field->text()) + kEdges > field->width()) {
+      found += QStringLiteral("field; ");
+    }
+  }
+  return found;
+}
+
+// What an operator would not see of the toolkit's own dialog; empty for nothing.
+QString cutTexts(QWidget& dialog) {
+  dialog.setAttribute(Qt::WA_DontShowOnScreen);
+  dialog.show();
+  QString found = clippedTexts(dialog) + cutFields(dialog);
+  if (dialog.width() > kScreen.width() || dialog.height() > kScreen.height()) {
+    found += QStringLiteral("larger than the screen; ");
+  }
+  return found;
 }
 
 class RefusedDialogs : public DialogHost {
@@ -171,7 +201,15 @@ bool ScriptedDialogs::take(const QString& dialog, Expectation& expectation) {
   return true;
 }
 
+void ScriptedDialogs::requireWhole(QWidget& dialog, const QString& described) {
+  if (const QString cut = cutTexts(dialog); !cut.isEmpty()) {
+    reported_ = false;
+    problems_ << QStringLiteral("not all of it is shown (%1): ").arg(cut.trimmed()) + described;
+  }
+}
+
 Button ScriptedDialogs::box(const Box& box) {
+  requireWhole(*messageBox(box, nullptr), describe(box));
   Expectation expectation;
   const bool fits = take(describe(box), expectation);
   if (fits && !box.buttons.contains(expectation.button)) {
@@ -198,6 +236,8 @@ QString ScriptedDialogs::pickFolder(const QString& title) {
 }
 
 QString ScriptedDialogs::input(const InputRequest& request) {
+  InputBox dialog(request, nullptr);
+  requireWhole(dialog, describe(request));
   Expectation expectation;
   return take(describe(request), expectation) ? expectation.text : QString();
 }

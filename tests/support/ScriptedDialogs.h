@@ -8,8 +8,10 @@
 //   QVERIFY2(dialogs.satisfied(), dialogs.report());      // or leave it to the destructor
 //
 // In force from its construction to its destruction. A dialog that nobody expected, one with other
-// words, icon or buttons, and an expectation that never came fail the running test, at the latest
-// in the destructor. A dialog that does not fit is answered as if it were closed.
+// words, icon or buttons, one that does not show every letter of its text in the toolkit's own box
+// (in the style of the application that the test runs), and an expectation that never came fail the
+// running test, at the latest in the destructor. A dialog that does not fit is answered as if it
+// were closed.
 #pragma once
 
 #include <QByteArray>
@@ -19,6 +21,8 @@
 #include <functional>
 
 #include "platform/dialogs/Dialogs.h"
+
+class QWidget;
 
 namespace quartela::test {
 
@@ -69,6 +73,9 @@ class ScriptedDialogs : public DialogHost {
     QString text;
     Meanwhile meanwhile;
   };
+
+  // A problem where the dialog as operators see it does not show every letter.
+  void requireWhole(QWidget& dialog, const QString& described);
 
   // The expectation that `dialog` fulfils, taken from the queue; else false, and a problem.
   bool take(const QString& dialog, Expectation& expectation);

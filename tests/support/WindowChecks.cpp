@@ -61,10 +61,23 @@ bool clash(const Taken& one, const Taken& other) {
   return !one.page || !other.page || one.page == other.page;
 }
 
+// A wrapped text must have the height that its width asks for, and room for its longest word.
+QSize sizeOfLabel(const QLabel& label) {
+  if (label.text().isEmpty()) {
+    return {};
+  }
+  if (!label.wordWrap()) {
+    return label.minimumSizeHint();
+  }
+  const QRect place(0, 0, label.contentsRect().width(), QWIDGETSIZE_MAX);
+  const QSize text = label.fontMetrics().boundingRect(place, Qt::TextWordWrap, label.text()).size();
+  return text + (label.size() - label.contentsRect().size());
+}
+
 // What the text of a label, button or check box takes; nothing for any other widget.
 QSize sizeOfText(const QWidget* widget) {
   if (const auto* label = qobject_cast<const QLabel*>(widget)) {
-    return label->text().isEmpty() ? QSize() : label->minimumSizeHint();
+    return sizeOfLabel(*label);
   }
   const auto* button = qobject_cast<const QAbstractButton*>(widget);
   const auto* tool = qobject_cast<const QToolButton*>(widget);

@@ -4,12 +4,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QSpacerItem>
 #include <QWidget>
+#include <QWindow>
 
 #include "platform/dialogs/FileFilters.h"
 #include "platform/dialogs/InputBox.h"
@@ -61,6 +64,14 @@ QString buttonWords(Button button) {
   return QStringLiteral("OK");
 }
 
+// A box with a word or two is no narrower than this.
+void widen(QMessageBox& dialog) {
+  constexpr int kLeastWidth = 280;
+  if (auto* const grid = qobject_cast<QGridLayout*>(dialog.layout())) {
+    grid->addItem(new QSpacerItem(kLeastWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
+}
+
 void fillBox(QMessageBox& dialog, const Box& box) {
   dialog.setWindowTitle(shownTitle(box.title));
   dialog.setTextFormat(Qt::PlainText);
@@ -71,6 +82,27 @@ void fillBox(QMessageBox& dialog, const Box& box) {
   }
   dialog.setDefaultButton(toolkitButton(shownDefault(box)));
   dialog.setEscapeButton(toolkitButton(closingAnswer(box)));
+  widen(dialog);
+}
+
+// The window of the dialog that was shown last.
+QPointer<QWidget>& lastWindow() {
+  static QPointer<QWidget> window;
+  return window;
+}
+
+// A window manager that sees dialogs come and go in quick order now and then leaves the keyboard
+// with the wrong window, or with none: the dialog's own window asks for it.
+void returnTo(QWidget* window) {
+  if (window != nullptr && window->isVisible()) {
+    window->activateWindow();
+  }
+  lastWindow() = window;
+}
+
+bool canHaveDialogs(const QWidget* window) {
+  return window != nullptr && window->isVisible() &&
+         (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
 }
 
 // A dialog may lose its window, and with it itself, while it is shown; `read` then has nothing to
@@ -78,7 +110,9 @@ void fillBox(QMessageBox& dialog, const Box& box) {
 template <typename Dialog, typename Answer, typename Read>
 Answer show(Dialog* dialog, const Answer& closed, Read read) {
   const QPointer<Dialog> guard(dialog);
+  const QPointer<QWidget> window(dialog->parentWidget());
   dialog->exec();
+  returnTo(window);
   if (!guard) {
     return closed;
   }
@@ -145,24 +179,29 @@ Button shownDefault(const Box& box) {
 }
 
 QWidget* dialogParent() {
-  QWidget* fallback = nullptr;
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    const Qt::WindowType type = window->windowType();
-    if (window->isVisible() && (type == Qt::Window || type == Qt::Dialog)) {
-      fallback = window;
-    }
-  }
-  for (QWidget* window : {QApplication::activeWindow(), QApplication::activeModalWidget()}) {
-    if (window && window->windowType() != Qt::SplashScreen) {
+  for (QWidget* window :
+       {QApplication::activeWindow(), QApplication::activeModalWidget(), lastWindow().data()}) {
+    if (canHaveDialogs(window)) {
       return window;
     }
   }
-  return fallback;
+  QWidget* newest = nullptr;
+  const QWindowList windows = QGuiApplication::topLevelWindows();
+  for (const QWindow* const window : windows) {
+    QWidget* const widget = window->isVisible() ? QWidget::find(window->winId()) : nullptr;
+    newest = canHaveDialogs(widget) ? widget : newest;
+  }
+  return newest;
+}
+
+std::unique_ptr<QMessageBox> messageBox(const Box& box, QWidget* parent) {
+  auto dialog = std::make_unique<QMessageBox>(parent);
+  fillBox(*dialog, box);
+  return dialog;
 }
 
 Button ToolkitDialogs::box(const Box& box) {
-  auto* dialog = new QMessageBox(dialogParent());
-  fillBox(*dialog, box);
+  QMessageBox* const dialog = messageBox(box, dialogParent()).release();
   return show(dialog, closingAnswer(box),
               [&box](const QMessageBox& shown) { return answerOf(box, shown); });
 }

@@ -1,8 +1,11 @@
 // The dialogs that operators see: the toolkit's own, in Portuguese whatever the desktop speaks.
 #pragma once
 
+#include <memory>
+
 #include "platform/dialogs/Dialogs.h"
 
+class QMessageBox;
 class QWidget;
 
 namespace quartela {
@@ -17,6 +20,9 @@ class ToolkitDialogs : public DialogHost {
   bool printer(QPrinter& printer) override;
 };
 
+// The box that operators see, not shown yet.
+std::unique_ptr<QMessageBox> messageBox(const Box& box, QWidget* parent);
+
 // What `box` answers when it is closed without a button: Cancel where it has it, else No, else Ok.
 Button closingAnswer(const Box& box);
 
@@ -27,7 +33,8 @@ QString shownTitle(const QString& title);
 Button shownDefault(const Box& box);
 
 // The window that a dialog belongs to, so that it is never hidden behind one that stays on top: the
-// active window, else the modal one, else any that is open. A splash is none, since it goes away by
+// active window, else the modal one, else that of the last dialog (between two of them nothing is
+// active), else the newest that is open. A splash is none, since it goes away by
 // itself and would take the dialog along. Null where nothing is open.
 QWidget* dialogParent();
 

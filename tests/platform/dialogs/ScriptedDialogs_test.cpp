@@ -1,5 +1,7 @@
 #include "tests/support/ScriptedDialogs.h"
 
+#include <QScopeGuard>
+
 #include "tests/support/TestMain.h"
 
 using quartela::Box;
@@ -62,6 +64,50 @@ class ScriptedDialogs_test : public QObject {
     QVERIFY(!dialogs.satisfied());
     QCOMPARE(dialogs.report(),
              "not expected: box \"Aviso\" [Question] buttons Yes No, default Yes: \"Confirma?\"");
+  }
+
+  void aBoxThatShowsNotEveryLetterIsAProblem() {
+    qApp->setStyleSheet("QMessageBox QLabel#qt_msgbox_label { min-width: 240px; }");
+    const auto restore = qScopeGuard([] { qApp->setStyleSheet({}); });
+    const Box told{"Deseja mostrar o número do processo e a data de abertura?", "Aviso"};
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(told);
+    QCOMPARE(Dialogs::box(told), Button::Ok);
+    QVERIFY(!dialogs.satisfied());
+    QVERIFY(
+        QByteArray(dialogs.report()).startsWith("not all of it is shown (qt_msgbox_label;): box"));
+  }
+
+  void aWrappedTextThatIsCutIsAProblem() {
+    qApp->setStyleSheet("QMessageBox QLabel#qt_msgbox_label { max-height: 20px; }");
+    const auto restore = qScopeGuard([] { qApp->setStyleSheet({}); });
+    const Box told{QString("Uma frase que não cabe numa linha. ").repeated(12), "Aviso"};
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(told);
+    Dialogs::box(told);
+    QVERIFY(
+        QByteArray(dialogs.report()).startsWith("not all of it is shown (qt_msgbox_label;): box"));
+  }
+
+  void anInputBoxThatShowsNotEveryLetterIsAProblem() {
+    const InputRequest words{QString("Palavra").repeated(30), "Aviso", "1"};
+    const InputRequest value{"Valor?", "Aviso", QString("9").repeated(100)};
+    for (const InputRequest& request : {words, value}) {
+      ScriptedDialogs dialogs;
+      dialogs.expectInput(request, "2");
+      QCOMPARE(Dialogs::input(request), "2");
+      QVERIFY(QByteArray(dialogs.report()).startsWith("not all of it is shown"));
+    }
+  }
+
+  void aLongTextIsShownWhole() {
+    const Box told{QString("Uma frase que não cabe numa linha. ").repeated(12), "Aviso"};
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(told);
+    Dialogs::box(told);
+    dialogs.expectInput({told.text, "Aviso", "21/11/2014"}, "2");
+    Dialogs::input({told.text, "Aviso", "21/11/2014"});
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
   }
 
   void everyWordOfABoxCounts_data() {

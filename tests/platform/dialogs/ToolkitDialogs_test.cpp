@@ -32,14 +32,18 @@ namespace Dialogs = quartela::Dialogs;
 
 namespace {
 
-// Works the next modal window as soon as there is one and it has the keyboard.
+// Works the next modal window, or all of them, as soon as there is one and it has the keyboard.
 class Operator : public QObject {
  public:
-  explicit Operator(std::function<void(QWidget*)> work) : work_(std::move(work)) {
-    connect(&timer_, &QTimer::timeout, this, [this] {
+  static constexpr bool kAll = true;
+
+  explicit Operator(std::function<void(QWidget*)> work, bool all = false) : work_(std::move(work)) {
+    connect(&timer_, &QTimer::timeout, this, [this, all] {
       QWidget* const dialog = QApplication::activeModalWidget();
       if (dialog && dialog->isVisible() && dialog->isActiveWindow()) {
-        timer_.stop();
+        if (!all) {
+          timer_.stop();
+        }
         ++worked;
         const QPointer<QWidget> guard(dialog);
         work_(dialog);
@@ -252,6 +256,25 @@ class ToolkitDialogs_test : public QObject {
     splash.activateWindow();
     QTRY_COMPARE(QApplication::activeWindow(), &splash);
     QCOMPARE(quartela::dialogParent(), &window);
+  }
+
+  // Window managers choose anew when a dialog goes, and now and then nobody, or the wrong window,
+  // while the next dialog comes up.
+  void theWindowHasTheKeyboardAgainAfterItsDialogs() {
+    QWidget main;
+    main.show();
+    QWidget window(&main, Qt::Dialog);
+    window.show();
+    window.activateWindow();
+    QTRY_VERIFY(window.isActiveWindow());
+    constexpr int kRounds = 20;
+    for (int round = 0; round < kRounds; ++round) {
+      Operator person([](QWidget* box) { QTest::keyClick(box, Qt::Key_Return); }, Operator::kAll);
+      QVERIFY(Dialogs::confirm("Confirma?", "Aviso"));
+      Dialogs::information("Registro Salvo!", "Aviso");
+      QCOMPARE(person.worked, 2);
+      QTRY_VERIFY2(window.isActiveWindow(), qPrintable(QString::number(round)));
+    }
   }
 
   void aDialogWhoseWindowGoesAwayAnswersAsClosed() {
