@@ -48,8 +48,9 @@ class Started:
             stdout=self.said, stderr=subprocess.STDOUT, preexec_fn=end_with_the_starter)
 
     def words(self):
-        self.said.seek(0)
-        return self.said.read().decode(errors="replace").strip()
+        # Without moving the place in the file, at which the program writes on.
+        file = self.said.fileno()
+        return os.pread(file, os.fstat(file).st_size, 0).decode(errors="replace").strip()
 
     def require(self, what):
         """Ends the run where the program has ended, with its own words."""

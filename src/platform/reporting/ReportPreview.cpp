@@ -30,6 +30,7 @@ namespace {
 
 // Long enough to get on, short enough that keys and clicks are answered at once.
 constexpr int kSlice = 20;
+constexpr int kLongestWait = 1000;
 constexpr int kWholeProgress = 1000;
 constexpr QSize kUsualSize{1000, 720};
 // What a window manager may put round the window.
@@ -78,7 +79,7 @@ ReportPreview::ReportPreview(std::shared_ptr<Report> report, PreviewCommands com
   connect(view_, &PageView::turned, this, &ReportPreview::turn);
   connect(&timer_, &QTimer::timeout, this, &ReportPreview::buildSlice);
   timer_.setSingleShot(true);
-  timer_.start(0);
+  timer_.start(kLongestWait);
   resize(kUsualSize.boundedTo(screen()->availableSize() - kFrame));
   view_->setFocus();
   showZoom();
@@ -421,6 +422,15 @@ void ReportPreview::leaveField() {
   view_->setFocus();
   showZoom();
   showProgress();
+}
+
+// A routine's box belongs to this window and leaves it in front, once this has the keyboard. On a
+// desktop that does not give it, the document is prepared all the same.
+void ReportPreview::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow() && timer_.isActive()) {
+    timer_.start(0);
+  }
 }
 
 // The wheel changes no value, a page number that was begun is forgotten on leaving, and Escape in a

@@ -4,22 +4,11 @@ the find dialog, a deletion, the end. What it did is read from the database file
 
 Usage: delete_a_process.py BUILD SCREENSHOTS
 """
-import subprocess
 import sys
-import tempfile
 import time
 from pathlib import Path
 
-SOURCE = Path(__file__).resolve().parents[3]
-sys.dont_write_bytecode = True
-sys.path.insert(0, str(SOURCE / "demonstration"))
-from desktop import Display, require_tools, rows  # noqa: E402
-
-
-def log_in(display):
-    display.focus("Login")
-    display.type("financas")
-    display.key("Tab", "Down", "Return")
+from office import answer_alert, laid_out, leave, log_in, rows
 
 
 def find_by_number(display, shown):
@@ -54,8 +43,7 @@ def play(display, folder, pictures):
     main = display.window("Quartela 2014")
     display.focus("A L E R T A")
     picture("1-alert")
-    display.key("Return")
-    display.no_window("A L E R T A")
+    answer_alert(display)
     for x in (438, 508, 571, 626, 677):
         display.click(main, x - 43, 105 - 51)
         time.sleep(0.4)
@@ -65,9 +53,7 @@ def play(display, folder, pictures):
     picture("3-found")
     delete_first_row(display, main)
     picture("4-deleted")
-    display.focus("Quartela 2014")
-    display.key("alt+F4")
-    display.finish(program)
+    leave(display, program)
     gone = rows(database, f"SELECT count(*) FROM Requisicao WHERE SEQ = {victim}")[0] == 0
     after = rows(database, "SELECT count(*) FROM Requisicao")[0]
     if not gone or after != before - 1:
@@ -80,12 +66,10 @@ def play(display, folder, pictures):
 def main():
     build, pictures = Path(sys.argv[1]).resolve(), Path(sys.argv[2])
     pictures.mkdir(parents=True, exist_ok=True)
-    with tempfile.TemporaryDirectory() as folder, Display() as display:
-        subprocess.run([str(SOURCE / "packaging" / "lay-out"), str(build), folder], check=True)
-        play(display, Path(folder), pictures)
+    with laid_out(build) as (display, folder):
+        play(display, folder, pictures)
     print("the process was deleted through the real window")
 
 
 if __name__ == "__main__":
-    require_tools()
     main()
