@@ -1,27 +1,42 @@
 #include "records/cAdiantamento.h"
 
+#include <array>
+
 #include "foundation/Banco.h"
 #include "foundation/Erros.h"
 #include "foundation/Leitura.h"
 #include "platform/controls/ListView.h"
 #include "platform/values/Convert.h"
 #include "platform/values/Format.h"
+#include "records/Colunas.h"
 #include "records/Consulta.h"
 #include "records/Gravacao.h"
 
 namespace quartela {
 namespace {
 
-constexpr QStringView kData = u"dd/MM/yyyy";
+constexpr QStringView kFormatoData = u"dd/MM/yyyy";
 constexpr QStringView kValor = u"#,##0.00";
+
+constexpr std::array<ColunaLista, cAdiantamento::kColunas> kLista{{
+    {"Empenho", ColumnWidth::pixels(78)},
+    {"Abertura", ColumnWidth::pixels(82)},
+    {"Retirada", ColumnWidth::pixels(82)},
+    {"Fechar em", ColumnWidth::pixels(82)},
+    {"Fechamento", ColumnWidth::pixels(86)},
+    {"Valor devolvido", ColumnWidth::pixels(110), Qt::AlignRight},
+    {"Data devolução", ColumnWidth::pixels(110)},
+    {"O.P.", ColumnWidth::pixels(52)},
+    {"Anulado?", ColumnWidth::pixels(68)},
+}};
 
 void adiciona_empenho(ListView& lista) {
   const auto campo = [](int posicao, QStringView formato) {
     return Format(Tabela.field(posicao), formato);
   };
-  lista.addRow({campo(0, u"00000/00"), campo(1, kData), campo(2, kData), campo(3, kData),
-                campo(4, kData), campo(5, kValor), campo(6, kData),
-                Convert::toText(Tabela.field(7)),
+  lista.addRow({campo(0, u"00000/00"), campo(1, kFormatoData), campo(2, kFormatoData),
+                campo(3, kFormatoData), campo(4, kFormatoData), campo(5, kValor),
+                campo(6, kFormatoData), Convert::toText(Tabela.field(7)),
                 Convert::toBool(Tabela.field(8)) ? QStringLiteral("SIM") : QStringLiteral("NÃO")});
 }
 
@@ -30,6 +45,10 @@ void adiciona_empenho(ListView& lista) {
 cAdiantamento& cAdiantamento::compartilhada() {
   static cAdiantamento instancia;
   return instancia;
+}
+
+void cAdiantamento::prepara_lista(ListView& lista) {
+  prepara_colunas(lista, kLista);
 }
 
 void cAdiantamento::Del_ad() {

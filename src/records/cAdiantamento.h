@@ -16,7 +16,23 @@ class ListView;
 
 class cAdiantamento {
  public:
+  // The columns of its list, from the left.
+  enum Coluna {
+    kEmpenho,
+    kAbertura,
+    kRetirada,
+    kFecharEm,
+    kFechamento,
+    kDevolucao,
+    kDataDevolucao,
+    kOP,
+    kAnulado,
+    kColunas
+  };
+
   static cAdiantamento& compartilhada();
+  // Gives a list the columns that Lista_Adiantamento fills.
+  static void prepara_lista(ListView& lista);
 
   // Filled by Dados_Planilha only.
   Money Valor() const { return valor_; }

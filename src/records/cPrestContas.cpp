@@ -1,33 +1,49 @@
 #include "records/cPrestContas.h"
 
+#include <array>
+
 #include "foundation/Banco.h"
 #include "foundation/Escritorio.h"
 #include "foundation/Leitura.h"
 #include "platform/controls/ListView.h"
 #include "platform/values/Convert.h"
 #include "platform/values/Format.h"
+#include "records/Colunas.h"
 #include "records/Consulta.h"
 #include "records/Gravacao.h"
 
 namespace quartela {
 namespace {
 
-constexpr QStringView kValor = u"#,##0.00";
+constexpr QStringView kFormatoValor = u"#,##0.00";
 const QString kNotas = QStringLiteral(
     "SELECT PrestContas.SEQ, PrestContas.DATA, PrestContas.ORDEM, PrestContas.HISTORICO, "
     "PrestContas.DESPESAS From PrestContas Where PrestContas.Processo =");
 const QString kPorData = QStringLiteral(" ORDER BY PrestContas.DATA, PrestContas.SEQ;");
+
+constexpr std::array<ColunaLista, cPrestContas::kColunas> kLista{{
+    {"SEQ", ColumnWidth::pixels(70)},
+    {"DATA", ColumnWidth::pixels(96)},
+    {" DOC.", ColumnWidth::pixels(110)},
+    {"IDENTIFICAÇÃO DO DOCUMENTO", ColumnWidth::pixels(416)},
+    {"VALOR", ColumnWidth::pixels(120), Qt::AlignRight},
+    {"TOTAL", ColumnWidth::pixels(120), Qt::AlignRight},
+}};
 
 void adiciona_nota(ListView& lista, Money& total) {
   total += Convert::toMoney(Tabela.field(4));
   const int linha =
       lista.addRow({Format(Tabela.field(0), u"0000"), Format(Tabela.field(1), u"dd/MM/yyyy"),
                     Convert::toText(Tabela.field(2)), Convert::toText(Tabela.field(3)),
-                    Format(Tabela.field(4), kValor), Format(total, kValor)});
+                    Format(Tabela.field(4), kFormatoValor), Format(total, kFormatoValor)});
   lista.ensureVisible(linha);
 }
 
 }  // namespace
+
+void cPrestContas::prepara_lista(ListView& lista) {
+  prepara_colunas(lista, kLista);
+}
 
 cPrestContas& cPrestContas::compartilhada() {
   static cPrestContas instancia;
@@ -84,7 +100,7 @@ Money cPrestContas::Lista_Prest(ListView& lista) {
     for (; !Tabela.eof(); Tabela.moveNext()) {
       adiciona_nota(lista, total);
     }
-    resultado = Convert::toMoney(Format(total, kValor));
+    resultado = Convert::toMoney(Format(total, kFormatoValor));
   });
   return resultado;
 }

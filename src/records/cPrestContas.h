@@ -17,7 +17,12 @@ class ListView;
 
 class cPrestContas {
  public:
+  // The columns of its list, from the left.
+  enum Coluna { kSeq, kData, kDocumento, kIdentificacao, kValor, kTotal, kColunas };
+
   static cPrestContas& compartilhada();
+  // Gives a list the columns that Lista_Prest fills.
+  static void prepara_lista(ListView& lista);
 
   std::int32_t Seq = 0;        // read by Le_numero wherever it is typed or shown
   std::int32_t ID_Viagem = 0;  // 0 or the key of a travel sheet

@@ -1,20 +1,18 @@
 #include "records/cTodos.h"
 
+#include <array>
+
 #include "foundation/Banco.h"
 #include "foundation/Escritorio.h"
 #include "foundation/Leitura.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/StatusBar.h"
-#include "platform/values/Convert.h"
-#include "platform/values/Format.h"
+#include "platform/database/Recordset.h"
+#include "records/Colunas.h"
 
 namespace quartela {
 namespace {
 
-constexpr QStringView kData = u"dd/MM/yyyy";
-constexpr QStringView kEmpenho = u"00000/00";
-constexpr QStringView kProcesso = u"0000/00";
-constexpr QStringView kValor = u"#,##0.00";
 const QString kRotulo = QStringLiteral("Função Lista_Movimento");
 
 // The row's icon tells its state: closed, open, or requisition only.
@@ -22,65 +20,60 @@ constexpr int kAberto = 1;
 constexpr int kEncerrado = 2;
 constexpr int kSoRequisicao = 3;
 
-// The columns of the stored queries of the processes, by position.
-enum Coluna {
-  kSeq,
-  kDataRequisicao,
-  kValorPedido,
-  kSecretaria = 4,
-  kResponsavel,
-  kTipo,
-  kNumeroEmpenho,
-  kAbertura,
-  kRetirada,
-  kFecharEm,
-  kFechamento,
-  kDias,
-};
+// What of the stored queries' rows tells a process's state.
+constexpr int kCampoRetirada = 9;
+constexpr int kCampoFechamento = 11;
 
-QString formatado(int coluna, QStringView formato) {
-  return Format(Tabela.field(coluna), formato);
+constexpr const char16_t* kData = u"dd/MM/yyyy";
+constexpr const char16_t* kEmpenho = u"00000/00";
+constexpr const char16_t* kProcesso = u"0000/00";
+constexpr const char16_t* kValor = u"#,##0.00";
+
+constexpr ColumnWidth centesimos(int largura) {
+  return ColumnWidth::hundredthsOfMillimetre(largura);
 }
 
-QString texto(int coluna) {
-  return Convert::toText(Tabela.field(coluna));
-}
+constexpr std::array<ColunaLista, cTodos::kColunasMovimento> kMovimento{{
+    {"N°.", centesimos(2293), Qt::AlignLeft, 0, kProcesso},
+    {"EMPENHO", centesimos(2117), Qt::AlignLeft, 7, kEmpenho, true},
+    {"DATA", centesimos(2646), Qt::AlignLeft, 1, kData},
+    {"SECRETARIA", centesimos(4410), Qt::AlignLeft, 4},
+    {"RESPONSAVEL", centesimos(4410), Qt::AlignLeft, 5},
+    {"VALOR", centesimos(1940), Qt::AlignRight, 2, kValor},
+    {"TIPO", centesimos(3528), Qt::AlignLeft, 6},
+    {"ABERTURA", centesimos(2646), Qt::AlignLeft, 8, kData},
+    {"RETIRADA", centesimos(2646), Qt::AlignLeft, kCampoRetirada, kData},
+    {"FECHAR EM", centesimos(2646), Qt::AlignLeft, 10, kData},
+    {"FECHAMENTO", centesimos(2646), Qt::AlignLeft, kCampoFechamento, kData},
+    {"DIAS", centesimos(1411), Qt::AlignLeft, 12},
+}};
 
-QString empenho() {
-  const Value numero = Tabela.field(kNumeroEmpenho);
-  return numero == Value(0) ? QString() : Format(numero, kEmpenho);
-}
+constexpr std::array<ColunaLista, cTodos::kColunasProcura> kProcura{{
+    {"EMPENHO", ColumnWidth::pixels(80), Qt::AlignLeft, 0, kEmpenho},
+    {"NOME", ColumnWidth::pixels(206), Qt::AlignLeft, 1},
+    {"TIPO", ColumnWidth::pixels(116), Qt::AlignLeft, 2},
+    {"VALOR", ColumnWidth::pixels(90), Qt::AlignRight, 3, kValor},
+    {"RETIRADA", ColumnWidth::pixels(84), Qt::AlignLeft, 4, kData},
+    {"FECHAR EM", ColumnWidth::pixels(90), Qt::AlignLeft, 5, kData},
+    {"ABERTURA", ColumnWidth::pixels(84), Qt::AlignLeft, 6, kData},
+    {"FUNÇÃO", ColumnWidth::pixels(116), Qt::AlignLeft, 7},
+    {"PROCESSO", ColumnWidth::pixels(84), Qt::AlignLeft, 8, kProcesso},
+}};
 
-int icone() {
-  if (!Tabela.field(kFechamento).isNull()) {
+int icone(const Recordset& linhas, int linha) {
+  if (!linhas.cell(linha, kCampoFechamento).isNull()) {
     return kEncerrado;
   }
-  return Tabela.field(kRetirada).isNull() ? kSoRequisicao : kAberto;
+  return linhas.cell(linha, kCampoRetirada).isNull() ? kSoRequisicao : kAberto;
 }
 
-void adiciona_processo(ListView& lista) {
-  const int linha =
-      lista.addRow({formatado(kSeq, kProcesso), empenho(), formatado(kDataRequisicao, kData),
-                    texto(kSecretaria), texto(kResponsavel), formatado(kValorPedido, kValor),
-                    texto(kTipo), formatado(kAbertura, kData), formatado(kRetirada, kData),
-                    formatado(kFecharEm, kData), formatado(kFechamento, kData), texto(kDias)});
-  lista.setIcon(linha, icone());
-}
-
-void adiciona_procurado(ListView& lista) {
-  lista.addRow({formatado(0, kEmpenho), texto(1), texto(2), formatado(3, kValor),
-                formatado(4, kData), formatado(5, kData), formatado(6, kData), texto(7),
-                formatado(8, kProcesso)});
-}
-
-void preenche(ListView& lista, const QString& comando, void (*adiciona)(ListView&)) {
+void preenche(ListView& lista, const QString& comando, std::span<const ColunaLista> colunas,
+              IconeDaLinha icone = nullptr) {
   Sql_atual = comando;
   lista.clear();
   Abre_consulta(Sql_atual);
   Cede_vez();
-  for (; !Tabela.eof(); Tabela.moveNext()) {
-    adiciona(lista);
-  }
+  entrega_linhas(lista, colunas, icone);
 }
 
 }  // namespace
@@ -92,14 +85,21 @@ cTodos& cTodos::compartilhada() {
 
 void cTodos::Lista_Movimento(ListView& lista, std::int16_t codigo, StatusBar& barra) {
   Lista_sob_trava(kRotulo, [&] {
-    preenche(lista, comando_movimento(codigo), adiciona_processo);
-    barra.setPanelText(
-        1, QStringLiteral("Total: %1 Registros Localizados....").arg(Tabela.recordCount()));
+    preenche(lista, comando_movimento(codigo), kMovimento, icone);
+    barra.setPanelText(1, QStringLiteral("Total: %1 Registros Localizados....").arg(lista.count()));
   });
 }
 
 void cTodos::Lista_Procura(ListView& lista, std::int16_t codigo) {
-  Lista_sob_trava(kRotulo, [&] { preenche(lista, comando_procura(codigo), adiciona_procurado); });
+  Lista_sob_trava(kRotulo, [&] { preenche(lista, comando_procura(codigo), kProcura); });
+}
+
+void cTodos::prepara_movimento(ListView& lista) {
+  prepara_colunas(lista, kMovimento);
+}
+
+void cTodos::prepara_procura(ListView& lista) {
+  prepara_colunas(lista, kProcura);
 }
 
 QString cTodos::comando_movimento(std::int16_t codigo) const {

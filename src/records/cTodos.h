@@ -14,7 +14,40 @@ class StatusBar;
 
 class cTodos {
  public:
+  // The columns of both lists, from the left.
+  enum ColunaMovimento {
+    kNumero,
+    kEmpenho,
+    kData,
+    kSecretaria,
+    kResponsavel,
+    kValor,
+    kTipo,
+    kAbertura,
+    kRetirada,
+    kFecharEm,
+    kFechamento,
+    kDias,
+    kColunasMovimento
+  };
+  enum ColunaProcura {
+    kProcuraEmpenho,
+    kProcuraNome,
+    kProcuraTipo,
+    kProcuraValor,
+    kProcuraRetirada,
+    kProcuraFecharEm,
+    kProcuraAbertura,
+    kProcuraFuncao,
+    kProcuraProcesso,
+    kColunasProcura
+  };
+
   static cTodos& compartilhada();
+
+  // Give a list the columns that the fillers below fill.
+  static void prepara_movimento(ListView& lista);
+  static void prepara_procura(ListView& lista);
 
   // Only Seq, Nome and Tipo take part in a query.
   std::int32_t Seq = 0;  // process number

@@ -35,15 +35,6 @@ constexpr QStringView kData = u"dd/MM/yyyy";
 constexpr QStringView kValor = u"#,##0.00";
 const QString kZero = QStringLiteral("0,00");
 
-// The columns of the list of empenhos.
-constexpr int kAbertura = 1;
-constexpr int kRetirada = 2;
-constexpr int kFecharEm = 3;
-constexpr int kFechamento = 4;
-constexpr int kDevolucao = 5;
-constexpr int kDataDevolucao = 6;
-constexpr int kOP = 7;
-
 Value data_mostrada(const QString& texto) {
   return texto.isEmpty() ? Value() : Value(texto);
 }
@@ -156,15 +147,15 @@ void frmAdiantamento::Carrega_dados() {
     carregados_.append({campo, QLatin1String(coluna), Conteudo_campo(*campo)});
   };
   ui_->mskempenho->setText(contexto_.chave);
-  mostra(ui_->dtpabertura, kAbertura, "ABERTURA");
-  mostra(ui_->dtpretirada, kRetirada, "RETIRADA");
-  mostra(ui_->dtpfechar_em, kFecharEm, "FECHAR_EM");
-  mostra(ui_->dtpfechamento, kFechamento, "FECHAMENTO");
-  ui_->mskdev->setText(lista.subItem(linha, kDevolucao));
+  mostra(ui_->dtpabertura, cAdiantamento::kAbertura, "ABERTURA");
+  mostra(ui_->dtpretirada, cAdiantamento::kRetirada, "RETIRADA");
+  mostra(ui_->dtpfechar_em, cAdiantamento::kFecharEm, "FECHAR_EM");
+  mostra(ui_->dtpfechamento, cAdiantamento::kFechamento, "FECHAMENTO");
+  ui_->mskdev->setText(lista.subItem(linha, cAdiantamento::kDevolucao));
   carregados_.append({ui_->mskdev, QStringLiteral("DEVOLUCAO"), Conteudo_campo(*ui_->mskdev)});
-  mostra(ui_->dtpdevolucao, kDataDevolucao, "DATADEV");
-  ui_->mskOP->setText(lista.subItem(linha, kOP));
-  ui_->Check1->setChecked(lista.subItem(linha, kOP) == QStringLiteral("SIM"));
+  mostra(ui_->dtpdevolucao, cAdiantamento::kDataDevolucao, "DATADEV");
+  ui_->mskOP->setText(lista.subItem(linha, cAdiantamento::kOP));
+  ui_->Check1->setChecked(lista.subItem(linha, cAdiantamento::kOP) == QStringLiteral("SIM"));
   ui_->mskempenho->setEnabled(false);
 }
 

@@ -18,6 +18,7 @@
 #include "platform/values/Convert.h"
 #include "records/Numeracao.h"
 #include "records/Principal.h"
+#include "records/cAdiantamento.h"
 #include "records/cPrestContas.h"
 #include "screens/Campos.h"
 #include "screens/frmAdiantamento.h"
@@ -50,10 +51,6 @@ void reserva_lugar(QWidget& campo) {
   campo.setSizePolicy(politica);
 }
 
-void coluna(ListView& lista, const char* titulo, int largura, Qt::Alignment lado = Qt::AlignLeft) {
-  lista.addColumn(QString::fromUtf8(titulo), ColumnWidth::pixels(largura), lado);
-}
-
 void negrita(QWidget& campo) {
   QFont fonte = campo.font();
   fonte.setBold(true);
@@ -70,7 +67,7 @@ frmCadastro::frmCadastro()
   Command1 = {ui_->Command1_0, ui_->Command1_1, ui_->Command1_2, ui_->Command1_3,
               ui_->Command1_4, ui_->Command1_5, ui_->Command1_6};
   prepara_tela();
-  prepara_colunas();
+  prepara_listas();
   liga_janela();
   liga_empenho();
   liga_notas();
@@ -113,24 +110,9 @@ void frmCadastro::prepara_tela() {
   }
 }
 
-void frmCadastro::prepara_colunas() {
-  ListView& empenhos = *ui_->lstEmpenho;
-  coluna(empenhos, "Empenho", 78);
-  coluna(empenhos, "Abertura", 82);
-  coluna(empenhos, "Retirada", 82);
-  coluna(empenhos, "Fechar em", 82);
-  coluna(empenhos, "Fechamento", 86);
-  coluna(empenhos, "Valor devolvido", 110, Qt::AlignRight);
-  coluna(empenhos, "Data devolução", 110);
-  coluna(empenhos, "O.P.", 52);
-  coluna(empenhos, "Anulado?", 68);
-  ListView& notas = *ui_->lstNotas;
-  coluna(notas, "SEQ", 70);
-  coluna(notas, "DATA", 96);
-  coluna(notas, " DOC.", 110);
-  coluna(notas, "IDENTIFICAÇÃO DO DOCUMENTO", 416);
-  coluna(notas, "VALOR", 120, Qt::AlignRight);
-  coluna(notas, "TOTAL", 120, Qt::AlignRight);
+void frmCadastro::prepara_listas() {
+  cAdiantamento::prepara_lista(*ui_->lstEmpenho);
+  cPrestContas::prepara_lista(*ui_->lstNotas);
 }
 
 void frmCadastro::liga_janela() {

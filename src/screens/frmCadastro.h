@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "foundation/Fechamento.h"
+#include "platform/values/DateTime.h"
 #include "platform/values/Money.h"
 #include "screens/Campos.h"
 
@@ -43,7 +44,7 @@ class frmCadastro : public QWidget {
  private:
   // Opening (frmCadastro.cpp)
   void prepara_tela();
-  void prepara_colunas();
+  void prepara_listas();
   void liga_janela();
   void liga_empenho();
   void liga_notas();

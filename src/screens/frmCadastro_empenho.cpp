@@ -21,7 +21,6 @@ const QString kReativar = QStringLiteral("&Reativar Empenho");
 const QString kEncerrar = QStringLiteral("&Encerrar Empenho");
 const QString kIda = QStringLiteral("Prestação de &Contas >>");
 const QString kVolta = QStringLiteral("<< &Voltar a Requisição");
-constexpr int kFechamento = 4;
 constexpr QRgb kVermelho = 0xFFFF0000;
 constexpr QRgb kAmareloClaro = 0xFFFFFF80;
 
@@ -141,7 +140,7 @@ void frmCadastro::cmdPrestacao_Click() {
   ListView& lista = *ui_->lstEmpenho;
   if (lista.count() > 0) {
     lista.selectRow(0);
-    marca_encerrado(!lista.subItem(0, kFechamento).isEmpty());
+    marca_encerrado(!lista.subItem(0, cAdiantamento::kFechamento).isEmpty());
   }
   Tag = lista.text(lista.selectedRow());
   Troca_aba(*ui_->SSTab1);

@@ -10,6 +10,7 @@
 #include "platform/values/Convert.h"
 #include "platform/values/Format.h"
 #include "records/Gravacao.h"
+#include "records/cAdiantamento.h"
 #include "records/cPrestContas.h"
 #include "screens/Campos.h"
 #include "screens/frmCadastro.h"
@@ -23,8 +24,6 @@ const QString kAviso = QStringLiteral("Aviso");
 const QString kZero = QStringLiteral("0,00");
 constexpr QStringView kValor = u"#,##0.00";
 constexpr QStringView kResumo = u"#,###.00";
-constexpr int kRetirada = 2;
-constexpr int kFecharEm = 3;
 constexpr qsizetype kNumeroEmpenho = 8;  // "00000/00"
 constexpr QRgb kAzulValor = 0xFF0000FF;
 constexpr QRgb kVermelhoValor = 0xFFD00000;
@@ -171,11 +170,11 @@ bool frmCadastro::nota_aceita() {
     return false;
   }
   const ListView& lista = *ui_->lstEmpenho;
-  const QString retirada = lista.subItem(lista.selectedRow(), kRetirada);
+  const QString retirada = lista.subItem(lista.selectedRow(), cAdiantamento::kRetirada);
   if (!retirada.isEmpty() && Convert::toDateTime(digitada) < Convert::toDateTime(retirada)) {
     return recusa("A data da nota é menor que a da retirada !!", ui_->txtdatanota);
   }
-  const QString fechar_em = lista.subItem(lista.selectedRow(), kFecharEm);
+  const QString fechar_em = lista.subItem(lista.selectedRow(), cAdiantamento::kFecharEm);
   if (!fechar_em.isEmpty() && ui_->Check2->isChecked() &&
       Convert::toDateTime(digitada) > Convert::toDateTime(fechar_em)) {
     return recusa("A data da nota é maior que a do fechamento !!", ui_->txtdatanota);
@@ -261,8 +260,10 @@ void frmCadastro::txtordem_Change(const QString& texto) {
   }
   ui_->lstNotas->ensureVisible(linha);
   ui_->lstNotas->selectRow(linha);
-  ui_->lblachou_0->setText(QLatin1Char(' ') + ui_->lstNotas->subItem(linha, 3));
-  ui_->lblachou_1->setText(QStringLiteral(" VALOR: ") + ui_->lstNotas->subItem(linha, 4));
+  ui_->lblachou_0->setText(QLatin1Char(' ') +
+                           ui_->lstNotas->subItem(linha, cPrestContas::kIdentificacao));
+  ui_->lblachou_1->setText(QStringLiteral(" VALOR: ") +
+                           ui_->lstNotas->subItem(linha, cPrestContas::kValor));
 }
 
 // Proposes the rest of a history that was entered before; typing on replaces it. What is being

@@ -11,6 +11,7 @@
 #include "records/Numeracao.h"
 #include "records/Principal.h"
 #include "records/cRequisicao.h"
+#include "records/cTodos.h"
 #include "screens/frmCadastro.h"
 #include "ui_QuadroRequisicao.h"
 #include "ui_frmCadastro.h"
@@ -19,7 +20,6 @@ namespace quartela {
 namespace {
 
 const QString kAviso = QStringLiteral("Aviso");
-constexpr int kAbertura = 7;  // the main list's column of the empenho's opening date
 
 }  // namespace
 
@@ -28,7 +28,7 @@ void frmCadastro::Carrega_dados() {
   requisicao.Envia_dados(Le_numero(QString(Tag_principal).remove(QLatin1Char('/'))));
   campos().mskprocesso->setText(Format(requisicao.Seq, u"0000/00"));
   ui_->fracadastro->mostra(requisicao);
-  if (!Subitem_principal(kAbertura).isEmpty()) {
+  if (!Subitem_principal(cTodos::kAbertura).isEmpty()) {
     ui_->fracadastro->setEnabled(false);
     // A text longer than its place could not be scrolled any more.
     campos().txtjustificativa->setToolTip(requisicao.Justificativa);

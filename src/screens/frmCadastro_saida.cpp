@@ -12,6 +12,7 @@
 #include "platform/values/Convert.h"
 #include "platform/values/Format.h"
 #include "records/Impressao.h"
+#include "records/cAdiantamento.h"
 #include "screens/frmCadastro.h"
 #include "ui_QuadroRequisicao.h"
 #include "ui_frmCadastro.h"
@@ -23,10 +24,6 @@ const QString kAviso = QStringLiteral("Aviso");
 constexpr QStringView kValor = u"#,##0.00";
 constexpr QStringView kData = u"dd/MM/yyyy";
 constexpr qsizetype kNumeroEmpenho = 8;
-constexpr int kAbertura = 1;
-constexpr int kRetirada = 2;
-constexpr int kFecharEm = 3;
-constexpr int kOP = 7;
 constexpr int kColunasExportadas = 4;
 
 QString hoje_por_extenso() {
@@ -62,8 +59,8 @@ void frmCadastro::imprime_prestacao() {
                         {QStringLiteral("Field44"), orgao},
                         {QStringLiteral("Field37"), ui_->lblEmpenho->text()},
                         {QStringLiteral("Field3"), lista.text(linha)},
-                        {QStringLiteral("Field4"), lista.subItem(linha, kAbertura)},
-                        {QStringLiteral("Field5"), lista.subItem(linha, kRetirada)},
+                        {QStringLiteral("Field4"), lista.subItem(linha, cAdiantamento::kAbertura)},
+                        {QStringLiteral("Field5"), lista.subItem(linha, cAdiantamento::kRetirada)},
                         {QStringLiteral("Field46"), campos().cmbOrdenador->text()},
                         {QStringLiteral("Field40"), valor_positivo(ui_->lblNao_aplicado->text())},
                         {QStringLiteral("Field43"), Format(Clock::now(), u" dd/mm/yyyy h:mm")},
@@ -79,7 +76,8 @@ bool frmCadastro::imprime_guia() {
   Sob_trava(kFuncaoImprimir, [&] {
     const ListView& lista = *ui_->lstEmpenho;
     const int linha = lista.selectedRow();
-    const QString vencimento = Format(lista.subItem(linha, kFecharEm), u"dd/mm/YYYY");
+    const QString vencimento =
+        Format(lista.subItem(linha, cAdiantamento::kFecharEm), u"dd/mm/YYYY");
     const QString devolvido = Format(Convert::toMoney(ui_->lblNao_aplicado->text()), kValor);
     const QString centavos = QString(devolvido).remove(QLatin1Char(',')).remove(QLatin1Char('.'));
     imprime({.relatorio = Relatorio::Guia,
@@ -90,7 +88,7 @@ bool frmCadastro::imprime_guia() {
                         {QStringLiteral("Field58"), campos().cmbTipo->text()},
                         {QStringLiteral("Field59"), vencimento},
                         {QStringLiteral("Field60"), lista.text(linha)},
-                        {QStringLiteral("Field61"), lista.subItem(linha, kOP)},
+                        {QStringLiteral("Field61"), lista.subItem(linha, cAdiantamento::kOP)},
                         {QStringLiteral("Field62"), devolvido},
                         {QStringLiteral("Barcode1"),
                          Monta_barras(QStringLiteral("000"), QStringLiteral("9"), centavos,

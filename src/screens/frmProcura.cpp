@@ -22,7 +22,6 @@ namespace {
 
 constexpr std::int16_t kTab3 = 2;
 constexpr std::int16_t kTransporte = 3;
-constexpr int kTipo = 2;
 
 constexpr std::int16_t kTodosAbertos = 1;
 constexpr std::int16_t kAbertosPorNome = 2;
@@ -32,22 +31,6 @@ constexpr std::int16_t kEncerrados = 4;
 QMap<std::int16_t, RecebeEmpenho>& receptores() {
   static QMap<std::int16_t, RecebeEmpenho> registrados;
   return registrados;
-}
-
-void prepara_colunas(ListView& lista) {
-  const auto coluna = [&lista](const char* titulo, int largura,
-                               Qt::Alignment lado = Qt::AlignLeft) {
-    lista.addColumn(QString::fromUtf8(titulo), ColumnWidth::pixels(largura), lado);
-  };
-  coluna("EMPENHO", 80);
-  coluna("NOME", 206);
-  coluna("TIPO", 116);
-  coluna("VALOR", 90, Qt::AlignRight);
-  coluna("RETIRADA", 84);
-  coluna("FECHAR EM", 90);
-  coluna("ABERTURA", 84);
-  coluna("FUNÇÃO", 116);
-  coluna("PROCESSO", 84);
 }
 
 }  // namespace
@@ -69,7 +52,7 @@ frmProcura::frmProcura(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
   ui_->setupUi(this);
   traz_imagens();
   ui_->Command3->setIcon(QIcon(QStringLiteral(":/quartela/screens/icons/search.svg")));
-  prepara_colunas(*ui_->ListView1);
+  cTodos::prepara_procura(*ui_->ListView1);
   typeUpperCase(*ui_->txtprocura);
   connect(ui_->Command3, &QAbstractButton::clicked, this, &frmProcura::Command3_Click);
   connect(ui_->ListView1, &ListView::itemClicked, this, &frmProcura::escolhe);
@@ -127,7 +110,8 @@ void frmProcura::Command1_Click() {
 
 // An advance for small expenses bears no transport sheet.
 void frmProcura::entrega() const {
-  if (ModoProcura == kTransporte && escolhido_.subitens.at(kTipo) == QStringLiteral("Miúdas")) {
+  if (ModoProcura == kTransporte &&
+      escolhido_.subitens.at(cTodos::kProcuraTipo) == QStringLiteral("Miúdas")) {
     return;
   }
   if (const RecebeEmpenho& recebe = receptores().value(ModoProcura)) {

@@ -10,7 +10,6 @@
 #include <QScreen>
 #include <QShortcut>
 #include <algorithm>
-#include <array>
 
 #include "foundation/Banco.h"
 #include "foundation/Estilo.h"
@@ -24,6 +23,7 @@
 #include "platform/values/Convert.h"
 #include "records/Principal.h"
 #include "records/cRequisicao.h"
+#include "records/cTodos.h"
 #include "reports/Relatorios.h"
 #include "screens/frmAviso.h"
 #include "shell/Comandos.h"
@@ -43,21 +43,6 @@ constexpr int kAvisoDepoisDe = 1000;  // milliseconds
 constexpr std::int16_t kFiltroInicial = 1;
 constexpr std::int16_t kTemaAzul = 1;
 const QString kAviso = QStringLiteral("Aviso");
-
-struct ColunaLista {
-  const char* titulo;
-  int largura;  // hundredths of a millimetre
-};
-
-constexpr std::array kColunas{
-    ColunaLista{"N°.", 2293},         ColunaLista{"EMPENHO", 2117},
-    ColunaLista{"DATA", 2646},        ColunaLista{"SECRETARIA", 4410},
-    ColunaLista{"RESPONSAVEL", 4410}, ColunaLista{"VALOR", 1940},
-    ColunaLista{"TIPO", 3528},        ColunaLista{"ABERTURA", 2646},
-    ColunaLista{"RETIRADA", 2646},    ColunaLista{"FECHAR EM", 2646},
-    ColunaLista{"FECHAMENTO", 2646},  ColunaLista{"DIAS", 1411},
-};
-constexpr std::size_t kColunaValor = 5;
 
 QString texto(const char* utf8) {
   return QString::fromUtf8(utf8);
@@ -143,11 +128,7 @@ void frmOficce::veste_tema() {
 void frmOficce::prepara_lista() {
   lista_->setObjectName(QStringLiteral("ListView1"));
   lista_->setAccessibleName(QStringLiteral("Processos"));
-  for (std::size_t n = 0; n < kColunas.size(); ++n) {
-    lista_->addColumn(texto(kColunas[n].titulo),
-                      ColumnWidth::hundredthsOfMillimetre(kColunas[n].largura),
-                      n == kColunaValor ? Qt::AlignRight : Qt::AlignLeft);
-  }
+  cTodos::prepara_movimento(*lista_);
   lista_->setIconList(icones_das_linhas(), kTamanhoIconeLinha);
 }
 

@@ -33,23 +33,73 @@ void ListModel::setCheckBoxes(bool on) {
   }
 }
 
+QString ListModel::text(int row, int cell) const {
+  return source_ ? source_->text(sourceRow(row), cell) : store_.text(row, cell);
+}
+
+QString ListModel::head(int row, int cell, std::size_t bytes) const {
+  if (source_) {
+    return text(row, cell);
+  }
+  const std::string_view utf8 = store_.bytes(row, cell).substr(0, bytes);
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+int ListModel::icon(int row) const {
+  return source_ ? source_->icon(sourceRow(row)) : store_.info(row).icon;
+}
+
+int ListModel::cells() const {
+  return source_ ? columnCount() : store_.cells();
+}
+
+void ListModel::setSource(std::unique_ptr<ListSource> source) {
+  clear();
+  source_ = std::move(source);
+  orderStale_ = true;
+}
+
+void ListModel::ownRows() {
+  if (!source_) {
+    return;
+  }
+  std::vector<QString> row(static_cast<std::size_t>(columnCount()));
+  for (int n = 0; n < count(); ++n) {
+    for (int cell = 0; cell < columnCount(); ++cell) {
+      row[static_cast<std::size_t>(cell)] = text(n, cell);
+    }
+    store_.info(store_.append(row)).icon = static_cast<std::int16_t>(icon(n));
+  }
+  source_.reset();
+  order_.clear();
+}
+
+void ListModel::setTag(int row, const QString& tag) {
+  ownRows();
+  store_.setTag(row, tag);
+}
+
 int ListModel::append(std::span<const QString> cells) {
+  ownRows();
   orderStale_ = true;
   return store_.append(cells);
 }
 
 void ListModel::setText(int row, int cell, const QString& text) {
+  ownRows();
   store_.setText(row, cell, text);
   orderStale_ = orderStale_ || cell == sortKey_;
   shown(row, cell, Qt::DisplayRole);
 }
 
 void ListModel::setIcon(int row, int icon) {
+  ownRows();
   store_.info(row).icon = static_cast<std::int16_t>(icon);
   shown(row, 0, Qt::DecorationRole);
 }
 
 void ListModel::setChecked(int row, bool checked) {
+  ownRows();
   store_.info(row).checked = checked;
   shown(row, 0, Qt::CheckStateRole);
 }
@@ -62,6 +112,7 @@ void ListModel::shown(int row, int column, int role) {
 
 void ListModel::removeRow(int row) {
   publish();
+  ownRows();
   beginRemoveRows({}, row, row);
   store_.remove(row);
   --published_;
@@ -71,6 +122,8 @@ void ListModel::removeRow(int row) {
 void ListModel::clear() {
   beginResetModel();
   store_.clear();
+  source_.reset();
+  order_.clear();
   published_ = 0;
   orderStale_ = false;
   endResetModel();
@@ -96,15 +149,15 @@ void ListModel::setSorted(bool sorted) {
 }
 
 bool ListModel::hasWork() const {
-  return published_ < store_.count() || (sorted_ && orderStale_);
+  return published_ < count() || (sorted_ && orderStale_);
 }
 
 void ListModel::publish() {
-  if (published_ == store_.count()) {
+  if (published_ == count()) {
     return;
   }
-  beginInsertRows({}, published_, store_.count() - 1);
-  published_ = store_.count();
+  beginInsertRows({}, published_, count() - 1);
+  published_ = count();
   endInsertRows();
 }
 
@@ -116,16 +169,39 @@ void ListModel::flush() {
   }
 }
 
+void ListModel::appendSortKeyOf(int row, std::string& out) const {
+  if (source_) {
+    const QByteArray utf8 = text(row, sortKey_).toUtf8();
+    appendSortKey({utf8.constData(), static_cast<std::size_t>(utf8.size())}, out);
+  } else {
+    appendSortKey(store_.bytes(row, sortKey_), out);
+  }
+}
+
+void ListModel::reorder(const std::vector<std::uint32_t>& order) {
+  if (!source_) {
+    store_.reorder(order);
+    return;
+  }
+  std::vector<std::uint32_t> rows;
+  rows.reserve(order.size());
+  for (const std::uint32_t row : order) {
+    rows.push_back(static_cast<std::uint32_t>(sourceRow(static_cast<int>(row))));
+  }
+  order_ = std::move(rows);
+}
+
 // The rows that the view holds on to (the current one, the selected one) go where their texts go.
 void ListModel::sortRows() {
   emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
-  const std::vector<std::uint32_t> order =
-      sortedRows(store_, sortKey_, sortOrder_ == Qt::DescendingOrder);
+  const std::vector<std::uint32_t> order = sortedRows(
+      count(), [this](int row, std::string& out) { appendSortKeyOf(row, out); },
+      sortOrder_ == Qt::DescendingOrder);
   std::vector<int> places(order.size());
   for (std::size_t place = 0; place < order.size(); ++place) {
     places[order[place]] = static_cast<int>(place);
   }
-  store_.reorder(order);
+  reorder(order);
   const QModelIndexList before = persistentIndexList();
   QModelIndexList after;
   for (const QModelIndex& held : before) {
@@ -149,14 +225,14 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   }
   switch (role) {
     case Qt::DisplayRole:
-      return store_.text(index.row(), index.column());
+      return text(index.row(), index.column());
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(columns_.at(index.column()).alignment);
     case Qt::DecorationRole:
-      return index.column() == 0 ? icon(index.row()) : QVariant();
+      return index.column() == 0 ? iconPicture(index.row()) : QVariant();
     case Qt::CheckStateRole:
       if (checkBoxes_ && index.column() == 0) {
-        return store_.info(index.row()).checked ? Qt::Checked : Qt::Unchecked;
+        return isChecked(index.row()) ? Qt::Checked : Qt::Unchecked;
       }
       return {};
     default:
@@ -164,8 +240,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   }
 }
 
-QVariant ListModel::icon(int row) const {
-  const int number = store_.info(row).icon;
+QVariant ListModel::iconPicture(int row) const {
+  const int number = icon(row);
   return number >= 1 && number <= icons_.size() ? QVariant(icons_.at(number - 1)) : QVariant();
 }
 

@@ -5,8 +5,12 @@
 #include <QAbstractTableModel>
 #include <QIcon>
 #include <QList>
+#include <memory>
 #include <span>
+#include <string>
+#include <vector>
 
+#include "platform/controls/ListSource.h"
 #include "platform/controls/RowStore.h"
 
 namespace quartela {
@@ -22,11 +26,23 @@ class ListModel : public QAbstractTableModel {
   void setCheckBoxes(bool on);
   bool checkBoxes() const { return checkBoxes_; }
 
-  const RowStore& store() const { return store_; }
+  int count() const { return source_ ? source_->count() : store_.count(); }
+  QString text(int row, int cell) const;
+  // At least the first `bytes` bytes of a cell's text, where that is less work than all of it.
+  QString head(int row, int cell, std::size_t bytes) const;
+  QString tag(int row) const { return source_ ? QString() : store_.tag(row); }
+  int icon(int row) const;
+  bool isChecked(int row) const { return !source_ && store_.info(row).checked; }
+  // Cells of a row, its text among them.
+  int cells() const;
+
+  // Shows these rows in the place of those it has. They are copied only when one is changed, added
+  // or removed.
+  void setSource(std::unique_ptr<ListSource> source);
   int append(std::span<const QString> cells);
   void setText(int row, int cell, const QString& text);
   void setIcon(int row, int icon);
-  void setTag(int row, const QString& tag) { store_.setTag(row, tag); }
+  void setTag(int row, const QString& tag);
   void setChecked(int row, bool checked);
   void removeRow(int row);
   void clear();
@@ -61,12 +77,23 @@ class ListModel : public QAbstractTableModel {
     Qt::Alignment alignment;
   };
 
-  QVariant icon(int row) const;
+  QVariant iconPicture(int row) const;
+  int sourceRow(int row) const {
+    return order_.empty() ? row : static_cast<int>(order_[static_cast<std::size_t>(row)]);
+  }
+  // Copies the source's rows, so that they can be changed.
+  void ownRows();
+  void appendSortKeyOf(int row, std::string& out) const;
+  void reorder(const std::vector<std::uint32_t>& order);
   void shown(int row, int column, int role);
   void sortRows();
 
   QList<Column> columns_;
   QList<QIcon> icons_;
+  // Where there is a source the store is empty; `order_` tells, once sorted, which of its rows
+  // stands where.
+  std::unique_ptr<ListSource> source_;
+  std::vector<std::uint32_t> order_;
   RowStore store_;
   int published_ = 0;
   bool checkBoxes_ = false;

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/controls/ListModel.h"
+#include "platform/controls/ListSource.h"
 #include "platform/values/RuntimeError.h"
 
 namespace quartela {
@@ -175,7 +176,7 @@ void ListView::clear() {
 }
 
 int ListView::count() const {
-  return model_->store().count();
+  return model_->count();
 }
 
 int ListView::checked(int row) const {
@@ -183,6 +184,12 @@ int ListView::checked(int row) const {
     throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
   }
   return row;
+}
+
+void ListView::setSource(std::unique_ptr<ListSource> source) {
+  model_->setSource(std::move(source));
+  toShow_ = -1;
+  later();
 }
 
 int ListView::addItem(const QString& text) {
@@ -212,14 +219,14 @@ void ListView::setSubItem(int row, int n, const QString& text) {
 }
 
 QString ListView::text(int row) const {
-  return model_->store().text(checked(row), 0);
+  return model_->text(checked(row), 0);
 }
 
 QString ListView::subItem(int row, int n) const {
   if (n < 0) {
     throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
   }
-  return model_->store().text(checked(row), n);
+  return model_->text(checked(row), n);
 }
 
 void ListView::setTag(int row, const QString& tag) {
@@ -227,7 +234,7 @@ void ListView::setTag(int row, const QString& tag) {
 }
 
 QString ListView::tag(int row) const {
-  return model_->store().tag(checked(row));
+  return model_->tag(checked(row));
 }
 
 void ListView::removeItem(int row) {
@@ -244,7 +251,7 @@ void ListView::setIcon(int row, int icon) {
 }
 
 int ListView::icon(int row) const {
-  return model_->store().info(checked(row)).icon;
+  return model_->icon(checked(row));
 }
 
 void ListView::setCheckBoxes(bool on) {
@@ -256,7 +263,7 @@ void ListView::setChecked(int row, bool isOn) {
 }
 
 bool ListView::isChecked(int row) const {
-  return model_->store().info(checked(row)).checked;
+  return model_->isChecked(checked(row));
 }
 
 int ListView::selectedRow() const {
@@ -299,13 +306,10 @@ int ListView::findSubItem(const QString& beginning, int from) const {
   if (beginning.isEmpty()) {
     return -1;
   }
-  const RowStore& store = model_->store();
   const auto atMost = static_cast<std::size_t>(beginning.size() + 1) * 3;
-  for (int row = std::max(from, 0); row < store.count(); ++row) {
-    for (int n = 1; n < store.cells(); ++n) {
-      const std::string_view head = store.bytes(row, n).substr(0, atMost);
-      if (!head.empty() && QString::fromUtf8(head.data(), static_cast<qsizetype>(head.size()))
-                               .startsWith(beginning, Qt::CaseInsensitive)) {
+  for (int row = std::max(from, 0); row < count(); ++row) {
+    for (int n = 1; n < model_->cells(); ++n) {
+      if (model_->head(row, n, atMost).startsWith(beginning, Qt::CaseInsensitive)) {
         return row;
       }
     }

@@ -24,11 +24,13 @@
 #include <QString>
 #include <QTreeView>
 #include <initializer_list>
+#include <memory>
 #include <span>
 
 namespace quartela {
 
 class ListModel;
+class ListSource;
 
 // A column's width in the measure at hand, on paper as on the screen.
 class ColumnWidth {
@@ -61,6 +63,9 @@ class ListView : public QTreeView {
   // Empties the list; the columns stay.
   void clear();
   int count() const;
+  // Shows these rows, as many as they are, in the place of those it has. Nothing is read of them
+  // but what is shown, searched, sorted or asked for.
+  void setSource(std::unique_ptr<ListSource> source);
   int addItem(const QString& text);
   // A whole row at once: its text and its sub-items from 1 on.
   int addRow(std::span<const QString> cells);

@@ -6,8 +6,6 @@
 #include <cstring>
 #include <iterator>
 
-#include "platform/controls/RowStore.h"
-
 namespace quartela {
 namespace {
 
@@ -110,14 +108,15 @@ void appendSortKey(std::string_view utf8, std::string& out) {
                  out.begin() + static_cast<std::ptrdiff_t>(start), asciiLower);
 }
 
-std::vector<std::uint32_t> sortedRows(const RowStore& store, int cell, bool descending) {
-  const auto count = static_cast<std::uint32_t>(store.count());
+std::vector<std::uint32_t> sortedRows(int rowCount, const AppendRowKey& appendKey,
+                                      bool descending) {
+  const auto count = static_cast<std::uint32_t>(rowCount);
   std::string arena;
   std::vector<Key> keys;
   keys.reserve(count);
   for (std::uint32_t row = 0; row < count; ++row) {
     const std::size_t start = arena.size();
-    appendSortKey(store.bytes(static_cast<int>(row), cell), arena);
+    appendKey(static_cast<int>(row), arena);
     const std::string_view key = std::string_view(arena).substr(start);
     keys.push_back({headOf(key), static_cast<std::uint32_t>(start),
                     static_cast<std::uint32_t>(key.size()), row});

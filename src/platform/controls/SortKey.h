@@ -4,19 +4,21 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace quartela {
 
-class RowStore;
-
 // Appends the key of a UTF-8 text to `out`. Two keys compare, byte by byte, as their texts sort.
 void appendSortKey(std::string_view utf8, std::string& out);
 
-// The rows of `store` in the order of their cell `cell`. Rows of equal text keep the order they
+// Appends the key of a row's text.
+using AppendRowKey = std::function<void(int row, std::string& out)>;
+
+// The rows from 0 to `count` in the order of their keys. Rows of equal text keep the order they
 // have.
-std::vector<std::uint32_t> sortedRows(const RowStore& store, int cell, bool descending);
+std::vector<std::uint32_t> sortedRows(int count, const AppendRowKey& appendKey, bool descending);
 
 }  // namespace quartela

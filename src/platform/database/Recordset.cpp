@@ -161,6 +161,15 @@ Value Recordset::field(QStringView name) const {
   return field(fieldPosition(name));
 }
 
+Value Recordset::cell(int row, int position) const {
+  const Data& data = opened();
+  data.checkPosition(position);
+  if (row < 0 || row >= data.rows.rowCount()) {
+    throw RuntimeError(ErrorNumber::CurrentRowMissing);
+  }
+  return data.rows.value(row, position);
+}
+
 void Recordset::addNew() {
   Data& data = opened();
   data.requireNoEdit();

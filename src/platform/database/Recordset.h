@@ -53,6 +53,9 @@ class Recordset {
   // such field.
   Value field(int position) const;
   Value field(QStringView name) const;
+  // A cell of any row, counted from 0, as it was read; which row is current does not matter. Error
+  // 3021 for a row that there is not, 3265 for such a field.
+  Value cell(int row, int position) const;
 
   // Begins a new row. Takes the write lock with LockType::Pessimistic: 3218 after a short wait when
   // another program holds it. Error 3027 when the source can only be read, 5 while a row is begun.

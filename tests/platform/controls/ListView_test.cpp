@@ -7,6 +7,7 @@
 #include <QTextDocumentFragment>
 #include <QToolTip>
 
+#include "platform/controls/ListSource.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/support/TestMain.h"
 
@@ -27,6 +28,25 @@ QPoint middleOf(const ListView& list, int row, int column = 0) {
 }
 
 }  // namespace
+
+// Names by number, which counts what is asked of it.
+class CountingSource : public ListSource {
+ public:
+  CountingSource(int count, int& asked) : count_(count), asked_(asked) {}
+  int count() const override { return count_; }
+  QString text(int row, int cell) const override {
+    ++asked_;
+    // 7 shares no factor with the counts used here: an order of its own for column 1.
+    return cell == 0   ? QStringLiteral("%1").arg(row, 4, 10, QLatin1Char('0'))
+           : cell == 1 ? QStringLiteral("name %1").arg(row * 7 % count_, 4, 10, QLatin1Char('0'))
+                       : QString();
+  }
+  int icon(int row) const override { return row % 3; }
+
+ private:
+  int count_;
+  int& asked_;
+};
 
 class ListViewTest : public QObject {
   Q_OBJECT
@@ -67,6 +87,10 @@ class ListViewTest : public QObject {
   void columnsShareWhatIsLeft();
   void aColumnSetByHandKeepsItsWidth();
   void aTextCutShortShowsWholeInATip();
+  void rowsOfASourceAreReadWhenTheyAreShown();
+  void rowsOfASourceBehaveAsOthers();
+  void rowsOfASourceCanBeChanged();
+  void aListMayBeGivenAnotherSource();
   void contextMenuByMouseAndKey();
   void findsBeginningsOfSubItems_data();
   void findsBeginningsOfSubItems();
@@ -591,6 +615,89 @@ void ListViewTest::aTextCutShortShowsWholeInATip() {
   list.resize(900, 120);
   askAt(0);
   QVERIFY(!QToolTip::isVisible());
+}
+
+void ListViewTest::rowsOfASourceAreReadWhenTheyAreShown() {
+  int asked = 0;
+  list_->resize(400, 200);
+  show();
+  list_->setSource(std::make_unique<CountingSource>(10'000, asked));
+  list_->flush();
+  list_->repaint();
+  QCOMPARE(list_->count(), 10'000);
+  QVERIFY(asked > 0);
+  QVERIFY2(asked < 500, qPrintable(QString::number(asked)));
+  QVERIFY(list_->verticalScrollBar()->maximum() > 0);
+}
+
+void ListViewTest::rowsOfASourceBehaveAsOthers() {
+  int asked = 0;
+  show();
+  list_->setIconList({QIcon(), QIcon()}, {16, 16});
+  list_->setSource(std::make_unique<CountingSource>(10, asked));
+  QCOMPARE(list_->count(), 10);
+  QCOMPARE(list_->text(3), QString("0003"));
+  QCOMPARE(list_->subItem(3, 1), QString("name 0001"));
+  QCOMPARE(list_->subItem(3, 9), QString());
+  QCOMPARE(list_->icon(2), 2);
+  QCOMPARE(list_->tag(2), QString());
+  QVERIFY(!list_->isChecked(2));
+  QCOMPARE(list_->findSubItem("NAME 0001"), 3);
+  QCOMPARE(list_->selectedRow(), 0);
+  list_->selectRow(3);
+  list_->setSortKey(1);
+  list_->setSorted(true);
+  list_->flush();
+  QCOMPARE(texts(*list_, 1).first(), QString("name 0000"));
+  QCOMPARE(texts(*list_, 1).last(), QString("name 0009"));
+  QCOMPARE(list_->selectedRow(), 1);
+  QCOMPARE(list_->text(1), QString("0003"));
+  QCOMPARE(list_->icon(1), 0);
+  list_->setSortOrder(Qt::DescendingOrder);
+  list_->flush();
+  QCOMPARE(texts(*list_, 1).first(), QString("name 0009"));
+  QCOMPARE(list_->text(list_->selectedRow()), QString("0003"));
+  QTest::keyClicks(list_.get(), "0005");
+  QCOMPARE(list_->text(list_->selectedRow()), QString("0005"));
+  list_->clear();
+  QCOMPARE(list_->count(), 0);
+}
+
+void ListViewTest::rowsOfASourceCanBeChanged() {
+  int asked = 0;
+  show();
+  list_->setSource(std::make_unique<CountingSource>(10, asked));
+  list_->setSortKey(1);
+  list_->setSorted(true);
+  list_->flush();
+  const QString third = list_->text(2);
+  const int icon = list_->icon(2);
+  list_->setTag(2, "tag");
+  QCOMPARE(list_->tag(2), QString("tag"));
+  QCOMPARE(list_->text(2), third);
+  QCOMPARE(list_->icon(2), icon);
+  list_->removeItem(0);
+  QCOMPARE(list_->count(), 9);
+  QCOMPARE(list_->tag(1), QString("tag"));
+  list_->addRow({QString("new"), QString("name 0000b")});
+  list_->flush();
+  QCOMPARE(list_->text(0), QString("new"));
+  list_->setChecked(0, true);
+  QVERIFY(list_->isChecked(0));
+}
+
+void ListViewTest::aListMayBeGivenAnotherSource() {
+  int asked = 0;
+  show();
+  list_->addRow({QString("own"), QString("row")});
+  list_->setSource(std::make_unique<CountingSource>(10, asked));
+  list_->flush();
+  list_->selectRow(7);
+  list_->setSource(std::make_unique<CountingSource>(3, asked));
+  QVERIFY(!list_->hasSelection());
+  list_->flush();
+  QCOMPARE(texts(*list_), QStringList({"0000", "0001", "0002"}));
+  QCOMPARE(list_->selectedRow(), 0);
 }
 
 void ListViewTest::contextMenuByMouseAndKey() {
