@@ -253,6 +253,19 @@ class cTodosTest : public QObject {
     QTEST(shown, "rows");
   }
 
+  // The list has the rows for itself: what is read and changed later does not show in it.
+  void theRowsStayWhatTheyWereWhenListed() {
+    cTodos().Lista_Movimento(*list_, 0, *bar_);
+    const QStringList before = cells(*list_, 0);
+    QCOMPARE(Tabela.state(), Recordset::Closed);
+    office_->run("UPDATE Requisicao SET VALOR = 70000; DELETE FROM Adiantamento");
+    Tabela.open(QStringLiteral("SELECT SEQ FROM Requisicao"), *Conexao);
+    QCOMPARE(cells(*list_, 0), before);
+    Tabela.close();
+    Conexao->close();
+    QCOMPARE(cells(*list_, 0), before);
+  }
+
   void aPickerRowShowsItsColumns() {
     cTodos all;
     all.Nome = QStringLiteral("bento");

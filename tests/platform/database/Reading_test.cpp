@@ -22,6 +22,7 @@ class Reading : public QObject {
   void movesOverRows();
   void movesOverNone();
   void fieldsByNameAndPosition();
+  void cellsOfAnyRow();
   void columnOfTheSameName();
   void closedRecordset();
   void openTwice();
@@ -205,6 +206,20 @@ void Reading::fieldsByNameAndPosition() {
   QCOMPARE(errorOf([&] { rows_.field(-1); }), 3265);
   QCOMPARE(errorOf([&] { rows_.fieldName(2); }), 3265);
   QCOMPARE(errorOf([&] { rows_.fieldType(-1); }), 3265);
+}
+
+void Reading::cellsOfAnyRow() {
+  select(QStringLiteral("SELECT SEQ, DATA FROM Requisicao ORDER BY SEQ"));
+  QCOMPARE(rows_.cell(2, 0), Value(314));
+  QCOMPARE(rows_.cell(1, 1), Value(DateTime::of(2014, 2, 28, 13, 45, 10)));
+  QVERIFY(rows_.cell(2, 1).isNull());
+  QCOMPARE(rows_.field(0), Value(114));
+  rows_.moveLast();
+  QCOMPARE(rows_.cell(0, 0), Value(114));
+  QCOMPARE(errorOf([&] { rows_.cell(3, 0); }), 3021);
+  QCOMPARE(errorOf([&] { rows_.cell(-1, 0); }), 3021);
+  QCOMPARE(errorOf([&] { rows_.cell(0, 2); }), 3265);
+  QCOMPARE(errorOf([] { Recordset().cell(0, 0); }), 3704);
 }
 
 void Reading::columnOfTheSameName() {
