@@ -88,8 +88,8 @@ void frmCadastro::prepara_tela() {
   // One page is enabled at a time: there is nothing to choose, and the first field has the focus.
   ui_->SSTab1->tabBar()->setFocusPolicy(Qt::NoFocus);
   Escurece_inativos(*ui_->fraNotas);
-  pinta_botao(*ui_->Command1_4, kVerdeClaro);
-  pinta_botao(*ui_->Command1_5, qRgb(255, 255, 255));
+  pinta_botao(*Command1[kImprimirPrestacao], kVerdeClaro);
+  pinta_botao(*Command1[kExportar], qRgb(255, 255, 255));
   pinta_botao(*ui_->cmdEncerrar, kAmareloClaro);
   pinta_texto(*ui_->lblEmpenho, kAzulValor);
   pinta_texto(*ui_->lblGasto, kVerdeEscuro);
@@ -124,7 +124,7 @@ void frmCadastro::liga_janela() {
           Evento(this, &frmCadastro::cmdAplicar_Click));
   connect(ui_->cmdImprimir, &QPushButton::clicked, this,
           Evento(this, &frmCadastro::cmdImprimir_Click));
-  connect(Command1[0], &QPushButton::clicked, this, Evento([this] { close(); }));
+  connect(Command1[kSair], &QPushButton::clicked, this, Evento([this] { close(); }));
   Ao_escapar(*this, Evento([this] { close(); }));
 }
 
@@ -148,12 +148,13 @@ void frmCadastro::liga_empenho() {
 }
 
 void frmCadastro::liga_notas() {
-  connect(Command1[1], &QPushButton::clicked, this, Evento(this, &frmCadastro::Alterar));
-  connect(Command1[2], &QPushButton::clicked, this, Evento(this, &frmCadastro::Gravar));
-  connect(Command1[3], &QPushButton::clicked, this, Evento(this, &frmCadastro::Incluir));
-  connect(Command1[4], &QPushButton::clicked, this, Evento(this, &frmCadastro::imprime_prestacao));
-  connect(Command1[5], &QPushButton::clicked, this, Evento(this, &frmCadastro::Exporta));
-  connect(Command1[6], &QPushButton::clicked, this, Evento(this, &frmCadastro::Cancelar));
+  connect(Command1[kAlterar], &QPushButton::clicked, this, Evento(this, &frmCadastro::Alterar));
+  connect(Command1[kGravar], &QPushButton::clicked, this, Evento(this, &frmCadastro::Gravar));
+  connect(Command1[kIncluir], &QPushButton::clicked, this, Evento(this, &frmCadastro::Incluir));
+  connect(Command1[kImprimirPrestacao], &QPushButton::clicked, this,
+          Evento(this, &frmCadastro::imprime_prestacao));
+  connect(Command1[kExportar], &QPushButton::clicked, this, Evento(this, &frmCadastro::Exporta));
+  connect(Command1[kCancelar], &QPushButton::clicked, this, Evento(this, &frmCadastro::Cancelar));
   ListView* const lista = ui_->lstNotas;
   connect(lista, &ListView::itemClicked, this,
           [this, lista](int linha) { ui_->txtseq->setText(lista->text(linha)); });

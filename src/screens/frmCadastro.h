@@ -90,6 +90,9 @@ class frmCadastro : public QWidget {
   void preenche_encerramento();
   void reativa();
   void marca_encerrado(bool encerrado);
+  // What befalls a note, and with it the buttons of its entry.
+  enum class Nota { Incluindo, Alterando, Gravada, Largada };
+  void mostra_botoes(Nota nota);
 
   // The notes (frmCadastro_notas.cpp)
   void chega_prestacao();
@@ -123,7 +126,19 @@ class frmCadastro : public QWidget {
   QString texto_exportado();
 
   std::unique_ptr<Ui::frmCadastro> ui_;
-  std::array<QPushButton*, 7> Command1{};
+  // The buttons of the notes' page, and the window's "Sair".
+  enum Botao {
+    kSair,
+    kAlterar,
+    kGravar,
+    kIncluir,
+    kImprimirPrestacao,
+    kExportar,
+    kCancelar,
+    kBotoes
+  };
+  std::array<QPushButton*, kBotoes> Command1{};
+  bool encerrado_ = false;         // what cmdEncerrar offers to undo
   QString Tag;                     // the empenho last clicked, as shown
   bool atualiza_ao_sair_ = false;  // the main list has become stale
   bool altera_nota_ = false;       // "Gravar" alters the note of txtseq

@@ -144,10 +144,11 @@ void frmCadastro::cmdPrestacao_Click() {
   }
   Tag = lista.text(lista.selectedRow());
   Troca_aba(*ui_->SSTab1);
-  ui_->cmdPrestacao->setText(ui_->cmdPrestacao->text() == kIda ? kVolta : kIda);
+  ui_->cmdPrestacao->setText(ui_->SSTab1->currentIndex() == 0 ? kIda : kVolta);
 }
 
 void frmCadastro::marca_encerrado(bool encerrado) {
+  encerrado_ = encerrado;
   ui_->cmdEncerrar->setText(encerrado ? kReativar : kEncerrar);
   QPalette cores = ui_->cmdEncerrar->palette();
   cores.setColor(QPalette::Button, QColor(encerrado ? kVermelho : kAmareloClaro));
@@ -156,7 +157,7 @@ void frmCadastro::marca_encerrado(bool encerrado) {
 
 void frmCadastro::cmdEncerrar_Click() {
   bool imprimiu = false;
-  if (ui_->cmdEncerrar->text() == kReativar) {
+  if (encerrado_) {
     reativa();
   } else {
     imprimiu = encerra();

@@ -1,6 +1,7 @@
 // The notes of the process screen: entry, list, money summary and the aids to typing.
 #include <QSignalBlocker>
 #include <algorithm>
+#include <array>
 
 #include "foundation/Erros.h"
 #include "foundation/Escritorio.h"
@@ -46,9 +47,10 @@ void frmCadastro::chega_prestacao() {
   const Money total = notas.Lista_Prest(*ui_->lstNotas);
   Segue([&] { mostra_total(total); });
   if (ui_->lstNotas->count() == 0) {
-    Command1[1]->setEnabled(false);
+    Command1[kAlterar]->setEnabled(false);
   } else {
-    for (QPushButton* const botao : {Command1[1], Command1[4], ui_->cmdEncerrar}) {
+    for (QPushButton* const botao :
+         {Command1[kAlterar], Command1[kImprimirPrestacao], ui_->cmdEncerrar}) {
       botao->setEnabled(true);
     }
   }
@@ -76,7 +78,8 @@ void frmCadastro::mostra_gasto(const QString& texto) {
   QPalette cores = ui_->lblNao_aplicado->palette();
   cores.setColor(QPalette::WindowText, QColor(diferenca > Money() ? kAzulValor : kVermelhoValor));
   ui_->lblNao_aplicado->setPalette(cores);
-  for (QPushButton* const botao : {Command1[4], ui_->cmdEncerrar, Command1[5]}) {
+  for (QPushButton* const botao :
+       {Command1[kImprimirPrestacao], ui_->cmdEncerrar, Command1[kExportar]}) {
     botao->setEnabled(gasto > Money());
   }
 }
@@ -86,6 +89,30 @@ std::int32_t frmCadastro::empenho_identificado() const {
       ui_->lblIdentificacao_27->text().left(kNumeroEmpenho).remove(QLatin1Char('/')));
 }
 
+void frmCadastro::mostra_botoes(Nota nota) {
+  enum class Passa { Liga, Desliga, DesligaSemNotas };
+  struct Estado {
+    Passa incluir, alterar, gravar, cancelar;
+  };
+  using enum Passa;
+  static constexpr std::array<Estado, 4> kEstados{{
+      {Desliga, Desliga, Liga, Liga},             // Incluindo
+      {Desliga, DesligaSemNotas, Liga, Liga},     // Alterando
+      {Liga, DesligaSemNotas, Desliga, Desliga},  // Gravada
+      {Liga, Liga, Desliga, Desliga},             // Largada
+  }};
+  const Estado& estado = kEstados[static_cast<std::size_t>(nota)];
+  const auto passa = [this](Botao botao, Passa como) {
+    if (como != DesligaSemNotas || ui_->lstNotas->count() == 0) {
+      Command1[botao]->setEnabled(como == Liga);
+    }
+  };
+  passa(kIncluir, estado.incluir);
+  passa(kAlterar, estado.alterar);
+  passa(kGravar, estado.gravar);
+  passa(kCancelar, estado.cancelar);
+}
+
 // The date stays, so that a run of notes of one day needs it typed once.
 void frmCadastro::Incluir() {
   altera_nota_ = false;
@@ -93,10 +120,7 @@ void frmCadastro::Incluir() {
   data_nota_ = DateTime();
   ui_->fraNotas->setEnabled(true);
   limpa_nota();
-  Command1[3]->setEnabled(false);
-  Command1[1]->setEnabled(false);
-  Command1[2]->setEnabled(true);
-  Command1[6]->setEnabled(true);
+  mostra_botoes(Nota::Incluindo);
   ui_->txtdatanota->setFocus();
   nota_salva_ = Conteudo_digitado(*ui_->fraNotas);
 }
@@ -131,12 +155,7 @@ void frmCadastro::Alterar() {
   }
   valor_nota_.mostra(*ui_->mskValor_nota, nota.Despesas, Format(nota.Despesas, kResumo));
   ui_->fraNotas->setEnabled(true);
-  Command1[3]->setEnabled(false);
-  Command1[2]->setEnabled(true);
-  if (ui_->lstNotas->count() == 0) {
-    Command1[1]->setEnabled(false);
-  }
-  Command1[6]->setEnabled(true);
+  mostra_botoes(Nota::Alterando);
   ui_->txtdatanota->setFocus();
   nota_salva_ = Conteudo_digitado(*ui_->fraNotas);
 }
@@ -198,13 +217,8 @@ void frmCadastro::grava_nota() {
   relista_notas();
   limpa_nota();
   ui_->fraNotas->setEnabled(false);
-  Command1[3]->setEnabled(true);
-  Command1[2]->setEnabled(false);
-  if (ui_->lstNotas->count() == 0) {
-    Command1[1]->setEnabled(false);
-  }
-  Command1[6]->setEnabled(false);
-  Command1[3]->setFocus();
+  mostra_botoes(Nota::Gravada);
+  Command1[kIncluir]->setFocus();
 }
 
 void frmCadastro::relista_notas() {
@@ -218,14 +232,8 @@ void frmCadastro::Cancelar() {
   ui_->txtdatanota->clear();
   limpa_nota();
   ui_->txtseq->setText(QStringLiteral("0"));
-  Command1[3]->setEnabled(true);
-  Command1[1]->setEnabled(true);
-  Command1[2]->setEnabled(false);
-  if (ui_->lstNotas->count() == 0) {
-    Command1[1]->setEnabled(true);
-  }
-  Command1[6]->setEnabled(false);
-  Command1[3]->setFocus();
+  mostra_botoes(Nota::Largada);
+  Command1[kIncluir]->setFocus();
 }
 
 void frmCadastro::mnExcluir_Click() {
