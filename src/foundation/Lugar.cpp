@@ -64,6 +64,15 @@ std::optional<QRect> lugar_descrito(const QString& texto) {
   return QGuiApplication::screenAt(lugar.center()) == nullptr ? std::nullopt : std::optional(lugar);
 }
 
+// A file that cannot be read holds no place.
+QString texto_guardado(const QWidget& janela) {
+  try {
+    return Le_ini(telas(), janela.objectName(), arquivo());
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
+
 bool guardavel(const QWidget& janela) {
   return janela.objectName().startsWith(QLatin1String("frm")) &&
          janela.minimumSize() != janela.maximumSize();
@@ -75,7 +84,7 @@ void devolve(QWidget& janela) {
   if (!guardavel(janela)) {
     return;
   }
-  const QString texto = Le_ini(telas(), janela.objectName(), arquivo());
+  const QString texto = texto_guardado(janela);
   if (const std::optional<QRect> lugar = lugar_descrito(texto)) {
     janela.setGeometry(*lugar);
     if (texto.endsWith(kMaximizada)) {
