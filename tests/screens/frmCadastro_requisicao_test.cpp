@@ -578,12 +578,13 @@ class frmCadastroRequisicaoTest : public QObject {
 
   void staysAboveTheMainWindow() {
     QWidget main;
-    main.setObjectName("frmOficce");
-    OpenForms::add(&main);
+    OpenForms::setMainWindow(&main);
     desk_->openNew();
     QCOMPARE(desk_->window()->parentWidget(), &main);
     QVERIFY(desk_->window()->isWindow());
     QVERIFY(!desk_->window()->isModal());
+    OpenForms::setMainWindow(nullptr);
+    delete desk_->window();
   }
 
   void refusesDatesOutOfTime_data() {
