@@ -10,7 +10,9 @@
 
 #include "benchmarks/Measure.h"
 #include "benchmarks/Toolkit.h"
+#include "foundation/Abertura.h"
 #include "foundation/Banco.h"
+#include "foundation/Caminhos.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/OpenForms.h"
 #include "platform/database/dialect/Dialect.h"

@@ -1,5 +1,8 @@
 #include "foundation/Banco.h"
 
+#include "foundation/Abertura.h"
+#include "foundation/Caminhos.h"
+
 #include <QFileInfo>
 
 #include "foundation/Erros.h"

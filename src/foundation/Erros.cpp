@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "foundation/Banco.h"
+#include "foundation/Abertura.h"
 #include "platform/dialogs/Dialogs.h"
 
 namespace quartela {

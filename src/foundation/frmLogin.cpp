@@ -5,7 +5,7 @@
 #include <QPalette>
 #include <algorithm>
 
-#include "foundation/Banco.h"
+#include "foundation/Abertura.h"
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
 #include "foundation/Ini.h"

@@ -25,13 +25,15 @@ void imprime(const PedidoImpressao& pedido) {
         ErrorNumber::InvalidProcedureCall,
         QStringLiteral("Este documento não está disponível nesta instalação."));
   }
+  if (!pedido.comando.isEmpty()) {
+    Sql_atual = pedido.comando;
+  }
   registrado(pedido);
 }
 
 bool imprime_requisicao(const QString& comando) {
   bool entregue = false;
   Sob_trava(kFuncaoImprimir, [&] {
-    Sql_atual = comando;
     imprime({.relatorio = Relatorio::Requisicao2, .comando = comando});
     entregue = true;
   });

@@ -67,6 +67,11 @@ int icone(const Recordset& linhas, int linha) {
   return linhas.cell(linha, kCampoRetirada).isNull() ? kSoRequisicao : kAberto;
 }
 
+void adiciona_vencendo(ListView& lista) {
+  lista.addRow({Format(Tabela.field(0), kProcesso), Convert::toText(Tabela.field(1)),
+                Convert::toText(Tabela.field(2)), Format(Tabela.field(3), kData)});
+}
+
 void preenche(ListView& lista, const QString& comando, std::span<const ColunaLista> colunas,
               IconeDaLinha icone = nullptr) {
   Sql_atual = comando;
@@ -100,6 +105,25 @@ void cTodos::prepara_movimento(ListView& lista) {
 
 void cTodos::prepara_procura(ListView& lista) {
   prepara_colunas(lista, kProcura);
+}
+
+int cTodos::Lista_Aviso(ListView& lista) {
+  int quantos = -1;
+  Lista_sob_trava(QStringLiteral("Função Form_Load"), [&] {
+    lista.clear();
+    Sql_atual = QStringLiteral(
+        "SELECT Requisicao.SEQ, Executor.NOME, Tipos.TIPO, Adiantamento.FECHAR_EM FROM Tipos INNER "
+        "JOIN ((Executor INNER JOIN Requisicao ON Executor.ORDEM = Requisicao.ORGAO) INNER JOIN "
+        "Adiantamento ON Requisicao.SEQ = Adiantamento.PROCESSO) ON Tipos.SEQUENCIA = "
+        "Requisicao.FINALIDADE WHERE (((Adiantamento.FECHAR_EM)<Now()+6) AND "
+        "((Adiantamento.FECHAMENTO) Is Null));");
+    Abre_consulta(Sql_atual);
+    quantos = Tabela.recordCount();
+    for (; !Tabela.eof(); Tabela.moveNext()) {
+      adiciona_vencendo(lista);
+    }
+  });
+  return quantos;
 }
 
 QString cTodos::comando_movimento(std::int16_t codigo) const {

@@ -68,6 +68,10 @@ class cTodos {
   // Fills the picker's list of empenhos: 1 all open, 2 open by Nome, 3 open by Tipo, 4 closed.
   void Lista_Procura(ListView& lista, std::int16_t codigo);
 
+  // Fills the list of the alert: the advances that are not closed and whose deadline has passed or
+  // is less than six days away. Gives their count, -1 after a failure, which goes to Erro_interno.
+  int Lista_Aviso(ListView& lista);
+
  private:
   QString comando_movimento(std::int16_t codigo) const;
   QString comando_procura(std::int16_t codigo) const;

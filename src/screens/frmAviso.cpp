@@ -3,11 +3,8 @@
 #include <QApplication>
 #include <QStyle>
 
-#include "foundation/Banco.h"
-#include "foundation/Leitura.h"
 #include "platform/controls/OpenForms.h"
-#include "platform/values/Convert.h"
-#include "platform/values/Format.h"
+#include "records/cTodos.h"
 #include "ui_frmAviso.h"
 
 namespace quartela {
@@ -21,11 +18,6 @@ void prepara_colunas(ListView& lista) {
   lista.addColumn(QStringLiteral("NOME"), ColumnWidth::pixels(260));
   lista.addColumn(QStringLiteral("FINALIDADE"), ColumnWidth::pixels(210));
   lista.addColumn(QStringLiteral("FECHAR EM"), ColumnWidth::pixels(100));
-}
-
-void adiciona_vencendo(ListView& lista) {
-  lista.addRow({Format(Tabela.field(0), u"0000/00"), Convert::toText(Tabela.field(1)),
-                Convert::toText(Tabela.field(2)), Format(Tabela.field(3), u"dd/MM/yyyy")});
 }
 
 }  // namespace
@@ -50,24 +42,9 @@ frmAviso::frmAviso(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::
 frmAviso::~frmAviso() = default;
 
 void frmAviso::Form_Load() {
-  Lista_sob_trava(QStringLiteral("Função Form_Load"), [this] {
-    ui_->lvList->clear();
-    Sql_atual = QStringLiteral(
-        "SELECT Requisicao.SEQ, Executor.NOME, Tipos.TIPO, Adiantamento.FECHAR_EM FROM Tipos INNER "
-        "JOIN "
-        "((Executor INNER JOIN Requisicao ON Executor.ORDEM = Requisicao.ORGAO) INNER JOIN "
-        "Adiantamento "
-        "ON Requisicao.SEQ = Adiantamento.PROCESSO) ON Tipos.SEQUENCIA = Requisicao.FINALIDADE "
-        "WHERE "
-        "(((Adiantamento.FECHAR_EM)<Now()+6) AND ((Adiantamento.FECHAMENTO) Is Null));");
-    Abre_consulta(Sql_atual);
-    if (Tabela.recordCount() < 1) {
-      Timer1.start();
-    }
-    for (; !Tabela.eof(); Tabela.moveNext()) {
-      adiciona_vencendo(*ui_->lvList);
-    }
-  });
+  if (cTodos::compartilhada().Lista_Aviso(*ui_->lvList) == 0) {
+    Timer1.start();
+  }
 }
 
 void mostra_frmAviso() {

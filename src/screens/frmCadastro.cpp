@@ -6,7 +6,7 @@
 #include <QTabBar>
 #include <utility>
 
-#include "foundation/Banco.h"
+#include "foundation/Caminhos.h"
 #include "foundation/Erros.h"
 #include "foundation/Escape.h"
 #include "foundation/Estilo.h"

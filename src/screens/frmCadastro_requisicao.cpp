@@ -1,5 +1,5 @@
 // The requisition side of the process screen: loading, saving, printing.
-#include "foundation/Banco.h"
+#include "foundation/Caminhos.h"
 #include "foundation/Escritorio.h"
 #include "foundation/Evento.h"
 #include "foundation/Ini.h"

@@ -2,7 +2,6 @@
 // notes.
 #include <QFileInfo>
 
-#include "foundation/Banco.h"
 #include "foundation/Erros.h"
 #include "foundation/Textos.h"
 #include "platform/dialogs/Dialogs.h"
@@ -46,12 +45,12 @@ void frmCadastro::imprime_prestacao() {
   Sob_trava(kFuncaoImprimir, [this] {
     const ListView& lista = *ui_->lstEmpenho;
     const int linha = lista.selectedRow();
-    Sql_atual = QStringLiteral("Select * from PrestContas Where PROCESSO = ") +
-                empenho_selecionado() + QStringLiteral(" Order by DATA, SEQ;");
+    const QString comando = QStringLiteral("Select * from PrestContas Where PROCESSO = ") +
+                            empenho_selecionado() + QStringLiteral(" Order by DATA, SEQ;");
     const QString responsavel = campos().cmbResponsavel->text();
     const QString orgao = campos().cmbOrgao->text();
     imprime({.relatorio = Relatorio::PrestContas,
-             .comando = Sql_atual,
+             .comando = comando,
              .exibe = Exibe_antes(),
              .campos = {{QStringLiteral("Field1"), responsavel},
                         {QStringLiteral("Field47"), responsavel},

@@ -11,7 +11,7 @@
 #include <QShortcut>
 #include <algorithm>
 
-#include "foundation/Banco.h"
+#include "foundation/Abertura.h"
 #include "foundation/Estilo.h"
 #include "foundation/Evento.h"
 #include "foundation/Rotinas.h"

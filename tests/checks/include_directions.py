@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Proves from the include lines that no folder of src/ includes upward and no files include in a circle.
+"""Proves from the include lines that no folder of src/ includes upward, that no files include in a circle,
+and that the global database objects are named where they may be.
 
 Usage: include_directions.py SRC. Prints each wrong line and exits with 1 when there is one.
 """
@@ -38,6 +39,12 @@ FORBIDDEN = {
                      "admin", "platform/database", "platform/database/dialect",
                      "platform/reporting", "platform/spreadsheet"},
 }
+# The program-wide database objects are named by the common routines, the record classes and the
+# documents, which hand the connection on to their data. A header would hand the names on.
+GLOBALS = "foundation/Banco.h"
+NAMES_GLOBALS = re.compile(
+    r"^(foundation/\w+|records/\w+|(masterdata|requests|sheets)/(c[A-Z]\w*|ListaCadastro|Pessoa)"
+    r"|reports/ar\w+)\.cpp$")
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 # Screens ask for documents through records/Impressao, whether they stand above the reports or below
 # them; the windows that reports/ has are opened like others.
@@ -72,6 +79,8 @@ def wrong_directions(path, includes):
         yield f"{path}: its folder has no place in the order of the layers"
         return
     for number, target in includes:
+        if target == GLOBALS and not NAMES_GLOBALS.match(path):
+            yield f"{path}:{number}: only record classes and common routines name the globals"
         other = layer_of(target)
         same_group = other is not None and RANK[other] == RANK[own] and other != own
         upward = other is not None and RANK[other] > RANK[own]

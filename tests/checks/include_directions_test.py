@@ -43,6 +43,17 @@ class IncludeDirections(unittest.TestCase):
             "reports/Relatorios.h": '#include "reports/arPrestContas.h"\n',
             "reports/arPrestContas.h": "", "reports/frmImportar.h": ""}))
 
+    def test_the_globals_are_named_by_record_classes_and_common_routines_alone(self):
+        include = '#include "foundation/Banco.h"\n'
+        told = "only record classes and common routines name the globals"
+        self.assertEqual([f"masterdata/Tela.cpp:1: {told}", f"records/cTodos.h:1: {told}",
+                          f"screens/frmAviso.cpp:1: {told}", f"shell/frmOficce.cpp:1: {told}"],
+                         problems_of({
+            "foundation/Banco.h": "", "foundation/Leitura.cpp": include, "records/cTodos.cpp": include,
+            "masterdata/cTipos.cpp": include, "reports/arPrestContas.cpp": include,
+            "records/cTodos.h": include, "masterdata/Tela.cpp": include,
+            "screens/frmAviso.cpp": include, "shell/frmOficce.cpp": include}))
+
     def test_a_circle_inside_a_folder_is_found(self):
         self.assertEqual(["circle: records/a.h -> records/b.h -> records/a.h"], problems_of({
             "records/a.h": '#include "records/b.h"\n', "records/b.h": '#include "records/a.h"\n'}))

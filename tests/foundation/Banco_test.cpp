@@ -1,6 +1,8 @@
 // The opening of the database at the login and its closing: which paths lead to the settings
 // screen, what is told, and that no file is ever changed by it.
 #include "foundation/Banco.h"
+#include "foundation/Abertura.h"
+#include "foundation/Caminhos.h"
 
 #include <QDir>
 #include <QFile>

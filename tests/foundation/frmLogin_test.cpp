@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include "database/Builder.h"
+#include "foundation/Abertura.h"
 #include "foundation/Banco.h"
 #include "foundation/Estilo.h"
 #include "foundation/Ini.h"

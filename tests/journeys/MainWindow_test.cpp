@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "foundation/Abertura.h"
 #include "foundation/Banco.h"
 #include "foundation/Ini.h"
 #include "foundation/Splash.h"

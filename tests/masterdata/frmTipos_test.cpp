@@ -3,7 +3,6 @@
 
 #include <QAbstractItemView>
 
-#include "foundation/Banco.h"
 #include "masterdata/cTipos.h"
 #include "tests/masterdata/Tela.h"
 #include "tests/support/office/OfficeMain.h"

@@ -5,7 +5,7 @@
 #include <QTest>
 #include <QThread>
 
-#include "foundation/Banco.h"
+#include "foundation/Abertura.h"
 #include "tests/records/durability/SavedRequisition.h"
 #include "tests/support/Folders.h"
 #include "tests/support/TestMain.h"

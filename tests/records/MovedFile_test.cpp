@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QTest>
 
-#include "foundation/Banco.h"
 #include "records/cRequisicao.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"

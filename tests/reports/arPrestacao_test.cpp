@@ -3,7 +3,6 @@
 
 #include <QPrinterInfo>
 
-#include "foundation/Banco.h"
 #include "platform/reporting/Output.h"
 #include "records/Impressao.h"
 #include "reports/Saida.h"

@@ -3,7 +3,7 @@
 #include <QMenu>
 #include <QSet>
 
-#include "foundation/Banco.h"
+#include "platform/database/Connection.h"
 #include "tests/screens/ProcessDesk.h"
 #include "tests/support/WindowChecks.h"
 #include "tests/support/office/OfficeMain.h"

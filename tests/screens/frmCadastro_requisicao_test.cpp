@@ -2,7 +2,7 @@
 #include <QAbstractItemView>
 #include <QFile>
 
-#include "foundation/Banco.h"
+#include "foundation/Caminhos.h"
 #include "platform/controls/OpenForms.h"
 #include "tests/screens/ProcessDesk.h"
 #include "tests/support/WindowChecks.h"

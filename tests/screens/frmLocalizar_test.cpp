@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "foundation/Banco.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/StatusBar.h"
 #include "platform/values/RuntimeError.h"

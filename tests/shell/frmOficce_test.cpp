@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QTest>
 
+#include "foundation/Abertura.h"
 #include "foundation/Banco.h"
 #include "foundation/Ini.h"
 #include "foundation/UmaJanela.h"

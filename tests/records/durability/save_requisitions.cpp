@@ -1,9 +1,10 @@
-// Saves requisitions one after the other and prints the number of each that was acknowledged, until it
-// is killed. Usage: save_requisitions DATABASE FIRST_NUMBER
+// Saves requisitions one after the other and prints the number of each that was acknowledged, until
+// it is killed. Usage: save_requisitions DATABASE FIRST_NUMBER
 #include <QApplication>
 #include <cstdio>
 
-#include "foundation/Banco.h"
+#include "foundation/Abertura.h"
+#include "foundation/Caminhos.h"
 #include "platform/dialogs/Dialogs.h"
 #include "records/cRequisicao.h"
 #include "tests/records/durability/SavedRequisition.h"

@@ -7,7 +7,8 @@
 
 #include "database/Builder.h"
 #include "demonstration/DataMaker.h"
-#include "foundation/Banco.h"
+#include "foundation/Abertura.h"
+#include "foundation/Caminhos.h"
 #include "foundation/Ini.h"
 #include "platform/files/ProgramFolder.h"
 
