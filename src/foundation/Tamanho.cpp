@@ -35,6 +35,14 @@ class Rolagem : public QScrollArea {
   }
 
  protected:
+  // A page that is shown for the first time has its place only now.
+  void resizeEvent(QResizeEvent* evento) override {
+    QScrollArea::resizeEvent(evento);
+    QWidget* const campo = QApplication::focusWidget();
+    if (campo != nullptr && widget() != nullptr && widget()->isAncestorOf(campo)) {
+      ensureWidgetVisible(campo);
+    }
+  }
   // A page that grows, or a font that changes, is told to the window's layout.
   bool eventFilter(QObject* objeto, QEvent* evento) override {
     if (objeto == widget() && evento->type() == QEvent::LayoutRequest) {

@@ -223,6 +223,8 @@ class SmallScreensTest : public QObject {
     QVERIFY2(list->height() >= kLeastList, qPrintable(placeOf(*list)));
     QTest::mouseClick(window.findChild<QAbstractButton*>(QString(include)), Qt::LeftButton);
     QCOMPARE(misfits(window, editing), QString());
+    const QWidget* const first = window.focusWidget();
+    QTRY_COMPARE(first->visibleRegion().boundingRect(), first->rect());
     everyFieldCanBeReached(window);
     window.resize(400, 240);
     QCOMPARE(misfits(window, editing), QString());
