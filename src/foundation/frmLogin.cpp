@@ -49,7 +49,7 @@ frmLogin::frmLogin() : ui_(std::make_unique<Ui::frmLogin>()) {
   ui_->txtPassword->setFocus();
   connect(ui_->cmdOk, &QPushButton::clicked, this, &frmLogin::cmdOk_click);
   connect(ui_->cmdUp, &QPushButton::clicked, this, &frmLogin::cmdUp_click);
-  connect(ui_->cmdCancel, &QPushButton::clicked, this, [] { QCoreApplication::exit(); });
+  connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmLogin::cmdCancel_click);
   connect(ui_->cmdParam, &QPushButton::clicked, this, [] { mostra_frmParametros(); });
 }
 
@@ -86,6 +86,14 @@ void frmLogin::cmdOk_click() {
     Abre_banco();
     close();
   });
+}
+
+// What was typed in the settings is asked for before the program ends over it.
+void frmLogin::cmdCancel_click() {
+  frmParametros* const parametros = UmaJanela<frmParametros>::aberta();
+  if (parametros == nullptr || parametros->close()) {
+    QCoreApplication::exit();
+  }
 }
 
 void frmLogin::recusa_senha() {

@@ -23,6 +23,7 @@ class frmLogin : public QDialog {
 
  private:
   void cmdOk_click();
+  void cmdCancel_click();
   void cmdUp_click();
   void recusa_senha();
   void grava_caminhogeral();

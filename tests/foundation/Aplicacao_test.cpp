@@ -167,7 +167,7 @@ class Aplicacao_test : public QObject {
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QVERIFY(window && window->isVisible());
     QCOMPARE(window->findChild<QLineEdit*>("Text1")->text(), "/dados/um.mdb");
-    window->close();
+    QTest::mouseClick(window->findChild<QPushButton*>("cmdCancelar"), Qt::LeftButton);
   }
 
   void theWheelChangesNothingWithoutTheFocus() {

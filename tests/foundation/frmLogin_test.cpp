@@ -26,6 +26,7 @@
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowChecks.h"
+#include "tests/support/office/Boxes.h"
 
 using namespace quartela;  // NOLINT(google-build-using-namespace)
 using test::FreshFolder;
@@ -360,17 +361,30 @@ class frmLogin_test : public QObject {
     QFETCH(const bool, byKey);
     const QByteArray before = folder_->read("Config.ini");
     mostra_frmParametros();
-    UmaJanela<frmParametros>::aberta()->findChild<QLineEdit*>("Text1")->setText("outro");
+    auto* const settings = UmaJanela<frmParametros>::aberta();
+    settings->findChild<QLineEdit*>("Text1")->setText("outro");
     window_->activateWindow();
     QTRY_COMPARE(QApplication::activeWindow(), window_.data());
-    QTimer::singleShot(0, window_, [this, byKey] {
+    const auto cancel = [this, byKey] {
       if (byKey) {
         QTest::keyClick(edit("txtPassword"), Qt::Key_Escape);
       } else {
         click("cmdCancel");
       }
+    };
+    // What was typed in the settings is asked for first.
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(test::boxes::askAbandon(), Button::No);
+    dialogs.expectBox(test::boxes::askAbandon(), Button::Yes);
+    bool stayed = false;
+    QTimer::singleShot(0, window_, [&] {
+      cancel();
+      stayed = settings->isVisible();
+      QTimer::singleShot(0, window_, cancel);
     });
     QCOMPARE(QCoreApplication::exec(), 0);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(stayed);
     QCOMPARE(folder_->read("Config.ini"), before);
   }
 

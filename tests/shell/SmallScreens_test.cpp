@@ -255,6 +255,28 @@ class SmallScreensTest : public QObject {
     }
   }
 
+  // At its opening size, with more rows than fit, wherever the screen has the room.
+  void everyColumnOfThePickerIsInView() {
+    constexpr int kMoreThanFit = 60;
+    for (int n = 0; n < kMoreThanFit; ++n) {
+      office_->run(
+          qPrintable(QStringLiteral("INSERT INTO Adiantamento(EMPENHO, PROCESSO, RETIRADA) "
+                                    "SELECT %1, SEQ, '2014-10-03 00:00:00' FROM "
+                                    "Requisicao LIMIT 1")
+                         .arg(100 * (n + 90000) + 14)));
+    }
+    QWidget& window = opening<frmProcura>()();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto* const list = window.findChild<ListView*>();
+    QTRY_VERIFY(list->verticalScrollBar()->isVisible());
+    constexpr int kRoomy = 1024;
+    if (window.screen()->size().width() >= kRoomy) {
+      QTRY_COMPARE(list->horizontalScrollBar()->maximum(), 0);
+    } else {
+      QCOMPARE(misfits(window, {"Command1", "Command2"}), QString());
+    }
+  }
+
   // Also where the window is made smaller than any screen.
   void aFieldOutOfSightScrollsIntoView() {
     UmaJanela<frmReqAvulso>::mostra();
