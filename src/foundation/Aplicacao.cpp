@@ -130,7 +130,7 @@ void mostra_erro_sem_trava(const RuntimeError& erro) {
     return;
   }
   while (!fila.isEmpty()) {
-    Dialogs::stop(fila.first());
+    Dialogs::stop(fila.first(), {});
     fila.removeFirst();
   }
 }

@@ -31,7 +31,8 @@ void Erro_interno(const RuntimeError& erro, const QString& rotulo) {
 }
 
 void Erro_gravacao(const RuntimeError& erro) {
-  Dialogs::stop(QStringLiteral("Erro n°: %1 Descrição: ").arg(erro.number()) + erro.description());
+  Dialogs::stop(QStringLiteral("Erro n°: %1 Descrição: ").arg(erro.number()) + erro.description(),
+                {});
   oferece_saida(erro);
 }
 

@@ -273,7 +273,7 @@ void frmOficce::mostra_menu(int linha, const QPoint& posicao) {
 void frmOficce::LoadEXE(const QString& caminho) {
   if (!QProcess::startDetached(nativePath(caminho), {})) {
     Dialogs::exclamation(
-        QStringLiteral("O aplicativo não foi localizado !!! Verifique sua localização ..."));
+        QStringLiteral("O aplicativo não foi localizado !!! Verifique sua localização ..."), {});
   }
   QCoreApplication::processEvents();
 }

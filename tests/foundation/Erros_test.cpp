@@ -28,6 +28,7 @@ class ErrosTest : public QObject {
     dialogs.expectBox(
         {.text = QStringLiteral("Erro n°: 61 Descrição: O disco está cheio. Libere espaço "
                                 "e tente outra vez."),
+         .title = {},
          .icon = BoxIcon::Stop});
     Erro_gravacao(RuntimeError(ErrorNumber::DiskFull));
   }

@@ -34,7 +34,7 @@ Box report(ErrorNumber number, const QString& file) {
   return {QStringLiteral("Houve um erro interno:\n\nNúmero do erro:\n%1\nDescrição :\n%2\n"
                          "Origem :\nSplash / Função Load")
               .arg(QString::number(error.number()), error.description()),
-          "", BoxIcon::Exclamation};
+          "Aviso", BoxIcon::Exclamation};
 }
 
 }  // namespace

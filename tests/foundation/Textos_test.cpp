@@ -151,7 +151,7 @@ void TextosTest::tellsWhyThereIsNoBarCode() {
   dialogs.expectBox(
       {QStringLiteral("Error 13 (O valor digitado não é do tipo que o campo pede.) in "
                       "procedure Monta_barras of Formulário frmMain"),
-       QString(), BoxIcon::Exclamation});
+       QStringLiteral("Aviso"), BoxIcon::Exclamation});
   QCOMPARE(Monta_barras(QStringLiteral("000"), QStringLiteral("9"), QStringLiteral("1"), vencimento,
                         QStringLiteral("12"), QStringLiteral("1")),
            QString());

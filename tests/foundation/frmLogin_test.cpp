@@ -345,7 +345,7 @@ class frmLogin_test : public QObject {
     }
     QVERIFY(!told.isEmpty());
     ScriptedDialogs dialogs;
-    dialogs.expectBox({told, "", BoxIcon::Exclamation});
+    dialogs.expectBox({told, "Aviso", BoxIcon::Exclamation});
     enter("Alfa");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QVERIFY(UmaJanela<frmLogin>::aberta());

@@ -108,11 +108,10 @@ class LargeTownTest : public QObject {
     nameWithQuotes();
     if (!doubled) {
       Grava_config("Escritorio", "aspas", "");
-      road_->dialogs.expectBox(
-          {.text = test::kAnything,
-           .icon = where == "Secretarias" || where == "Finalidades" || where == "Tipos"
-                       ? BoxIcon::Stop
-                       : BoxIcon::Exclamation});
+      const bool untrapped = where == "Secretarias" || where == "Finalidades" || where == "Tipos";
+      road_->dialogs.expectBox({.text = test::kAnything,
+                                .title = untrapped ? QString() : QStringLiteral("Aviso"),
+                                .icon = untrapped ? BoxIcon::Stop : BoxIcon::Exclamation});
     }
     const int found = search(where);
     QVERIFY2(road_->dialogs.satisfied(), road_->dialogs.report());

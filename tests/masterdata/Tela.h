@@ -44,6 +44,7 @@ inline Box untrapped(ErrorNumber number, const QString& detail = {}) {
   return {
       .text = QStringLiteral("Erro em tempo de execução %1:\n\n").arg(static_cast<int>(number)) +
               RuntimeError(number, detail).description(),
+      .title = {},
       .icon = BoxIcon::Stop};
 }
 

@@ -132,12 +132,12 @@ class GravacaoTest : public QObject {
 
   void whatIsRefusedIsNotTold() {
     ScriptedDialogs dialogs;
-    dialogs.expectBox({.text = test::kAnything, .icon = BoxIcon::Stop});
+    dialogs.expectBox({.text = test::kAnything, .title = {}, .icon = BoxIcon::Stop});
     Exclui_registro(
         {.tabela = "Orgao", .apaga = "DELETE FROM Orgao where ", .condicao = "IDORGAO = 1"});
     requisition().Seq = 114;
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
-    dialogs.expectBox({.text = test::kAnything, .icon = BoxIcon::Stop});
+    dialogs.expectBox({.text = test::kAnything, .title = {}, .icon = BoxIcon::Stop});
     QVERIFY(!requisition().Save_req(kInclusao));
     dialogs.expectBox(boxes::askInclusion(), Button::No);
     QVERIFY(!requisition().Save_req(kInclusao));

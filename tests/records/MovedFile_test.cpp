@@ -65,6 +65,7 @@ class MovedFileTest : public QObject {
         {.text = QStringLiteral("Erro n°: 3024 Descrição: O arquivo do banco de dados "
                                 "não foi encontrado: \"") +
                  office_->database() + QStringLiteral("\"."),
+         .title = {},
          .icon = BoxIcon::Stop});
     QVERIFY(!requisition.Save_req(1));
     QVERIFY(QFile::rename(moved_, office_->database()));
@@ -83,6 +84,7 @@ class MovedFileTest : public QObject {
                                 "do banco de dados foi movido, trocado ou excluído "
                                 "enquanto o programa estava aberto. [") +
                  office_->database() + QLatin1Char(']'),
+         .title = {},
          .icon = BoxIcon::Stop});
     dialogs.expectBox(
         boxes::question(QStringLiteral("Deseja abrir o arquivo que está agora em \"") +

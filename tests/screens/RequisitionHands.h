@@ -201,6 +201,7 @@ inline Box untrapped(ErrorNumber number) {
   return {
       .text = QStringLiteral("Erro em tempo de execução %1:\n\n").arg(static_cast<int>(number)) +
               errorDescription(number),
+      .title = {},
       .icon = BoxIcon::Stop};
 }
 

@@ -437,7 +437,7 @@ class frmAdiantamentoTest : public QObject {
     desk_->office().run("UPDATE Tipos SET PRAZO = 'trinta'");
     openNew();
     ScriptedDialogs dialogs;
-    dialogs.expectBox({.text = test::kAnything, .icon = BoxIcon::Stop});
+    dialogs.expectBox({.text = test::kAnything, .title = {}, .icon = BoxIcon::Stop});
     type("dtpretirada", "10112014");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QVERIFY(date("dtpfechar_em")->isEmpty());

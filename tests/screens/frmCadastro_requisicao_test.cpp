@@ -292,7 +292,7 @@ class frmCadastroRequisicaoTest : public QObject {
         "CREATE TRIGGER full BEFORE INSERT ON Requisicao BEGIN SELECT RAISE(ABORT, 'x'); END");
     ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
-    dialogs.expectBox({.text = test::kAnything, .icon = BoxIcon::Stop});
+    dialogs.expectBox({.text = test::kAnything, .title = {}, .icon = BoxIcon::Stop});
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->text("mskprocesso"), "0328/14");
@@ -553,7 +553,7 @@ class frmCadastroRequisicaoTest : public QObject {
     ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
     dialogs.expectBox(boxes::saved());
-    dialogs.expectBox({.text = test::kAnything, .icon = BoxIcon::Stop});
+    dialogs.expectBox({.text = test::kAnything, .title = {}, .icon = BoxIcon::Stop});
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->enabled("cmdAplicar cmdOk cmdImprimir"), "011");

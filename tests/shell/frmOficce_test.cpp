@@ -448,6 +448,7 @@ class frmOficceTest : public QObject {
     test::ScriptedDialogs dialogs;
     dialogs.expectBox({.text = QStringLiteral(
                            "O aplicativo não foi localizado !!! Verifique sua localização ..."),
+                       .title = {},
                        .icon = BoxIcon::Exclamation});
     frmOficce::LoadEXE(office_->file(QStringLiteral("sumido.exe")));
   }

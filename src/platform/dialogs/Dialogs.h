@@ -13,9 +13,12 @@ namespace quartela {
 enum class BoxIcon { None, Stop, Question, Exclamation, Information };
 enum class Button { Ok, Cancel, Yes, No };
 
+// What a box is titled that does not say it otherwise.
+inline const QString kUsualTitle = QStringLiteral("Aviso");
+
 struct Box {
   QString text{};
-  QString title{};  // empty: the application's, "Quartela"
+  QString title = kUsualTitle;  // empty: the application's, "Quartela"
   BoxIcon icon = BoxIcon::None;
   QList<Button> buttons{Button::Ok};
   Button defaultButton = Button::Ok;  // the first of `buttons` where it is none of them
@@ -60,9 +63,9 @@ QString input(const InputRequest& request);
 bool printer(QPrinter& printer);
 
 // Short ways to the boxes that the program shows everywhere.
-void information(const QString& text, const QString& title = {});
-void exclamation(const QString& text, const QString& title = {});
-void stop(const QString& text, const QString& title = {});
+void information(const QString& text, const QString& title = kUsualTitle);
+void exclamation(const QString& text, const QString& title = kUsualTitle);
+void stop(const QString& text, const QString& title = kUsualTitle);
 bool confirm(const QString& text, const QString& title);
 
 // Puts `host` in the place of the toolkit's dialogs, or, with null, the toolkit's back. Not owned.

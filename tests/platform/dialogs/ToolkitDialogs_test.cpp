@@ -143,8 +143,23 @@ class ToolkitDialogs_test : public QObject {
       QCOMPARE(buttonWords(window), QStringList{"OK"});
       QTest::keyClick(window, Qt::Key_Return);
     });
-    QCOMPARE(Dialogs::box({"Texto"}), Button::Ok);
+    QCOMPARE(Dialogs::box({"Texto", ""}), Button::Ok);
     QCOMPARE(person.worked, 1);
+  }
+
+  void aBoxThatDoesNotSayItsTitleBearsTheUsualOne() {
+    QStringList titles;
+    const auto read = [&titles](QWidget* window) {
+      titles << window->windowTitle();
+      QTest::keyClick(window, Qt::Key_Return);
+    };
+    Operator person(read, Operator::kAll);
+    Dialogs::box({"Texto"});
+    Dialogs::information("Texto");
+    Dialogs::exclamation("Texto");
+    Dialogs::stop("Texto");
+    Dialogs::stop("Texto", {});
+    QCOMPARE(titles, (QStringList{"Aviso", "Aviso", "Aviso", "Aviso", "Quartela"}));
   }
 
   void theShortWays_data() {

@@ -56,6 +56,7 @@ inline Box deleted() {
 inline Box saveFailure(ErrorNumber number, const QString& detail = {}) {
   return {.text = QStringLiteral("Erro n°: %1 Descrição: ").arg(static_cast<int>(number)) +
                   RuntimeError(number, detail).description(),
+          .title = {},
           .icon = BoxIcon::Stop};
 }
 
@@ -65,6 +66,7 @@ inline Box internalError(ErrorNumber number, const QString& label, const QString
   return {.text = QStringLiteral("Houve um erro interno:\n\nNúmero do erro:\n%1\nDescrição :\n%2\n"
                                  "Origem :\nQuartela / %3")
                       .arg(QString::number(error.number()), error.description(), label),
+          .title = QStringLiteral("Aviso"),
           .icon = BoxIcon::Exclamation};
 }
 
