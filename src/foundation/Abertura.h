@@ -4,7 +4,8 @@
 namespace quartela {
 
 // Reads the paths, opens Conexao and shows the splash. A path that leads to no database (errors
-// 3024 and 3044) shows the settings screen instead; any other failure ends it with nothing shown.
+// 3024 and 3044) shows the settings screen instead; any other failure ends it with nothing shown,
+// and is noted for the next login (Acessos.h).
 void Abre_banco();
 
 // Puts a fresh, open connection on the file in force into Conexao. Raises what Connection::open

@@ -5,12 +5,14 @@
 
 #include <QFileInfo>
 
+#include "foundation/Acessos.h"
 #include "foundation/Erros.h"
 #include "foundation/Ini.h"
 #include "foundation/Passos.h"
 #include "foundation/Splash.h"
 #include "foundation/frmParametros.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/files/AtomicFile.h"
 #include "platform/files/ProgramFolder.h"
 
 namespace quartela {
@@ -72,15 +74,19 @@ void Abre_conexao() {
 
 void Abre_banco() {
   le_caminhos();
+  clearLeftovers(QFileInfo(nativePath(caminhos.number)).absolutePath());
   try {
     Abre_conexao();
     for (const QString& aviso : Conexao->notices()) {
       Dialogs::exclamation(aviso);
     }
     mostra_Splash();
+    Anota_acesso();
   } catch (const RuntimeError& erro) {
     if (erro.code() == ErrorNumber::InvalidPath || erro.code() == ErrorNumber::DatabaseNotFound) {
       pede_caminho(erro);
+    } else {
+      Anota_acesso_falho(erro);
     }
   }
 }

@@ -41,6 +41,7 @@ QFrame#faixa QLabel#lblProposito { font-size: 10pt; color: #c9d8e8; }
 QFrame#faixa QLabel#lblVersion { color: #f0bd4f; }
 QFrame#cena { background: #ffffff; border: none; }
 QLabel#lblTitulo { font-size: 14pt; font-weight: 600; color: #16375b; }
+QLabel#lblUltimoAcesso { font-size: 8pt; color: #5a6675; }
 QFrame#linha { background: #c3ccd6; border: none; max-height: 1px; }
 QToolTip { background: #ffffff; color: #1d2a38; border: 1px solid #c3ccd6; padding: 3px; }
 )";

@@ -2,10 +2,13 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QPalette>
+#include <QTextDocument>
 #include <algorithm>
 
 #include "foundation/Abertura.h"
+#include "foundation/Acessos.h"
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
 #include "foundation/Ini.h"
@@ -13,13 +16,16 @@
 #include "foundation/frmParametros.h"
 #include "foundation/ui_frmLogin.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/files/AtomicFile.h"
 #include "platform/files/ProgramFolder.h"
+#include "platform/values/Format.h"
 
 namespace quartela {
 namespace {
 
 constexpr int kAlturaFechada = 3255;  // twips
 constexpr int kAlturaAberta = 4335;   // twips
+constexpr int kMargem = 20;           // pixels beside the fields
 
 // All three are compared; an absent key reads as the empty text and so lets an empty password in.
 bool senha_confere(const QString& senha) {
@@ -45,6 +51,7 @@ frmLogin::frmLogin() : ui_(std::make_unique<Ui::frmLogin>()) {
   const int faixa = Estilo::pixels(kAlturaAberta - kAlturaFechada, *this);
   ui_->inferior->setFixedHeight(faixa - ui_->lay_corpo->spacing());
   ajusta_altura(false);
+  mostra_ultimo_acesso();
   ui_->txtPassword->installEventFilter(this);
   ui_->txtPassword->setFocus();
   connect(ui_->cmdOk, &QPushButton::clicked, this, &frmLogin::cmdOk_click);
@@ -64,6 +71,23 @@ bool frmLogin::eventFilter(QObject* objeto, QEvent* evento) {
     ui_->txtPassword->setPalette(cores);
   }
   return QDialog::eventFilter(objeto, evento);
+}
+
+// Two short lines; the reason whole in the tip.
+void frmLogin::mostra_ultimo_acesso() {
+  const auto acesso = Ultimo_acesso_falho();
+  if (!acesso) {
+    return;
+  }
+  QLabel& linha = *ui_->lblUltimoAcesso;
+  const QString quando = QStringLiteral("O acesso de %1 não abriu o banco:")
+                             .arg(Format(acesso->quando, u"dd/MM/yyyy hh:mm"));
+  const int largura = ui_->lay_corpo->minimumSize().width() - 2 * kMargem;
+  const QString motivo = linha.fontMetrics().elidedText(acesso->motivo, Qt::ElideRight, largura);
+  linha.setText(quando + QLatin1Char('\n') + motivo);
+  linha.setToolTip(Qt::convertFromPlainText(acesso->motivo));
+  linha.setAccessibleName(quando + QLatin1Char(' ') + acesso->motivo);
+  linha.show();
 }
 
 void frmLogin::ajusta_altura(bool aberta) {
@@ -111,6 +135,7 @@ void frmLogin::grava_caminhogeral() {
 }
 
 void mostra_frmLogin() {
+  clearLeftovers(programFolder());
   UmaJanela<frmLogin>::mostra();
 }
 

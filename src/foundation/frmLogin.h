@@ -28,11 +28,14 @@ class frmLogin : public QDialog {
   void recusa_senha();
   void grava_caminhogeral();
   void ajusta_altura(bool aberta);
+  // How the last login ended, where it ended with nothing shown.
+  void mostra_ultimo_acesso();
 
   std::unique_ptr<Ui::frmLogin> ui_;
 };
 
-// Shows the login window; what main() does.
+// Shows the login window, once what a killed program has left in its folder is cleared; what main()
+// does.
 void mostra_frmLogin();
 
 }  // namespace quartela

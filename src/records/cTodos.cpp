@@ -8,6 +8,8 @@
 #include "platform/controls/ListView.h"
 #include "platform/controls/StatusBar.h"
 #include "platform/database/Recordset.h"
+#include "platform/values/Convert.h"
+#include "platform/values/Format.h"
 #include "records/Colunas.h"
 
 namespace quartela {

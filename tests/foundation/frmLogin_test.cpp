@@ -22,6 +22,7 @@
 #include "platform/controls/OpenForms.h"
 #include "platform/controls/ScreenPointer.h"
 #include "platform/values/RuntimeError.h"
+#include "tests/platform/files/NoMoreFiles.h"
 #include "tests/support/FreshFolder.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
@@ -222,6 +223,23 @@ class frmLogin_test : public QObject {
     enter("");
     QVERIFY(!UmaJanela<frmLogin>::aberta());
     QVERIFY(UmaJanela<Splash>::aberta());
+  }
+
+  // What cannot be read is not empty: nobody gets in without a password.
+  void anUnreadablePasswordFileLetsNobodyIn() {
+    const QByteArray before = folder_->read("Config.ini");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(
+        {"Houve um erro interno:\n\nNúmero do erro:\n75" + test::kAnything + "Função cmdOk_click",
+         "", BoxIcon::Exclamation});
+    {
+      const test::NoMoreFiles none;
+      enter("");
+    }
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QVERIFY(UmaJanela<frmLogin>::aberta());
+    QVERIFY(!UmaJanela<Splash>::aberta());
+    QCOMPARE(folder_->read("Config.ini"), before);
   }
 
   void theUserNamePlaysNoPart() {
