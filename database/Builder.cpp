@@ -56,7 +56,10 @@ void createForOffice(const QString& path) {
   const OpenFile file(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL,
                       kOwnerAndGroup);
   if (!file.isOpen()) {
-    throw RuntimeError(errno == ENOSPC ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccess, path);
+    throw RuntimeError(errno == ENOSPC   ? ErrorNumber::DiskFull
+                       : errno == EEXIST ? ErrorNumber::PathFileAccess
+                                         : ErrorNumber::InvalidPath,
+                       path);
   }
 }
 

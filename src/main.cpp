@@ -1,5 +1,3 @@
-#include <QLibraryInfo>
-
 #include "foundation/Aplicacao.h"
 #include "foundation/Splash.h"
 #include "foundation/UmaJanela.h"
@@ -7,8 +5,7 @@
 #include "shell/frmOficce.h"
 
 int main(int argc, char** argv) {
-  // Never from the program's folder, where the data is.
-  QCoreApplication::setLibraryPaths({QLibraryInfo::path(QLibraryInfo::PluginsPath)});
+  quartela::Afasta_partes_da_pasta();
   quartela::Aplicacao aplicacao(argc, argv);
   quartela::Splash::registra_principal([] { quartela::UmaJanela<quartela::frmOficce>::mostra(); });
   quartela::mostra_frmLogin();

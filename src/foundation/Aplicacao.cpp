@@ -5,6 +5,8 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QFile>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLineEdit>
@@ -132,6 +134,25 @@ void mostra_erro_sem_trava(const RuntimeError& erro) {
   while (!fila.isEmpty()) {
     Dialogs::stop(fila.first(), {});
     fila.removeFirst();
+  }
+}
+
+// The toolkit adds the program's folder when the application is made, and then repeats what was
+// taken from its list before. So the folder is put into the list for a moment, to be taken out.
+void Afasta_partes_da_pasta() {
+  const char* const variavel = "QT_PLUGIN_PATH";
+  const bool havia = qEnvironmentVariableIsSet(variavel);
+  const QByteArray antes = qgetenv(variavel);
+  const QString pasta =
+      QFileInfo(QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath()).path();
+  qputenv(variavel, QFile::encodeName(pasta) + ':' + antes);
+  QStringList lugares = QCoreApplication::libraryPaths();
+  lugares.removeAll(pasta);
+  QCoreApplication::setLibraryPaths(lugares);
+  if (havia) {
+    qputenv(variavel, antes);
+  } else {
+    qunsetenv(variavel);
   }
 }
 

@@ -38,6 +38,10 @@ class Aplicacao : public QApplication {
 // one once more is not repeated.
 void mostra_erro_sem_trava(const RuntimeError& erro);
 
+// To be called before the application is made: the toolkit then never looks for its plugins in the
+// program's folder, where the data is and whoever may write that could leave one.
+void Afasta_partes_da_pasta();
+
 // The program's version: major, minor, revision.
 QVersionNumber versao();
 
