@@ -10,6 +10,7 @@
 #include "foundation/Ini.h"
 #include "foundation/Passos.h"
 #include "foundation/Splash.h"
+#include "foundation/Verificacao.h"
 #include "foundation/frmParametros.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/AtomicFile.h"
@@ -82,6 +83,7 @@ void Abre_banco() {
     }
     mostra_Splash();
     Anota_acesso();
+    Comeca_verificacao(nativePath(caminhos.geral));
   } catch (const RuntimeError& erro) {
     if (erro.code() == ErrorNumber::InvalidPath || erro.code() == ErrorNumber::DatabaseNotFound) {
       pede_caminho(erro);
@@ -108,6 +110,7 @@ void Oferece_reabrir() {
 }
 
 void Fecha_banco() {
+  Encerra_verificacao();
   fecha_tabela();
   if (Conexao->state() != Connection::Closed) {
     Conexao->close();

@@ -1,11 +1,27 @@
 #include "platform/database/engines/sqlite/RowLoader.h"
 
+#include <cmath>
 #include <limits>
 
+#include "platform/files/TextEncoding.h"
 #include "platform/values/RuntimeError.h"
 
 namespace quartela::sqlite {
 namespace {
+
+// Whether the bytes are characters that somebody can have typed; a damaged text seldom is. Nearly
+// all texts are plain, and are only glanced at.
+bool isText(std::string_view bytes) {
+  unsigned char all = 0;
+  bool hasZero = false;
+  for (const char byte : bytes) {
+    all |= static_cast<unsigned char>(byte);
+    hasZero |= byte == 0;
+  }
+  return !hasZero && (all < 0x80 || detectEncoding(QByteArrayView(
+                                        bytes.data(), static_cast<qsizetype>(bytes.size()))) ==
+                                        TextEncoding::Utf8);
+}
 
 // The engine's cells of one row. A false answer means that the cell does not fit the column.
 class RowCells {
@@ -52,8 +68,9 @@ class RowCells {
   }
 
   bool loadNumber(int column) {
-    rows_.putNumber(column, sqlite3_column_double(statement_, column));
-    return true;
+    const double number = sqlite3_column_double(statement_, column);
+    rows_.putNumber(column, number);
+    return std::isfinite(number);
   }
 
   std::string_view text(int column) {
@@ -71,8 +88,9 @@ class RowCells {
   }
 
   bool loadText(int column) {
-    rows_.putText(column, text(column));
-    return true;
+    const std::string_view bytes = text(column);
+    rows_.putText(column, bytes);
+    return isText(bytes);
   }
 
   sqlite3_stmt* statement_;
