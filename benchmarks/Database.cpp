@@ -13,7 +13,7 @@
 #include "foundation/Abertura.h"
 #include "foundation/Banco.h"
 #include "foundation/Caminhos.h"
-#include "platform/database/dialect/Dialect.h"
+#include "platform/database/engines/sqlite/Translation.h"
 #include "platform/dialogs/Dialogs.h"
 #include "records/cRequisicao.h"
 
@@ -29,18 +29,18 @@ void makeTown(const QString& path, int processes, int notes) {
 }
 
 // The engine's own connection to a database file, open for the life of the object.
-class Engine {
+class PlainEngine {
  public:
-  explicit Engine(const QString& path) {
+  explicit PlainEngine(const QString& path) {
     check(sqlite3_open_v2(path.toUtf8().constData(), &handle_, SQLITE_OPEN_READWRITE, nullptr));
     run("PRAGMA journal_mode = DELETE");
     run("PRAGMA synchronous = EXTRA");
     run("PRAGMA cache_spill = OFF");
     run("PRAGMA foreign_keys = ON");
   }
-  ~Engine() { sqlite3_close(handle_); }
-  Engine(const Engine&) = delete;
-  Engine& operator=(const Engine&) = delete;
+  ~PlainEngine() { sqlite3_close(handle_); }
+  PlainEngine(const PlainEngine&) = delete;
+  PlainEngine& operator=(const PlainEngine&) = delete;
 
   void run(const char* sql) { check(sqlite3_exec(handle_, sql, nullptr, nullptr, nullptr)); }
 
@@ -157,8 +157,9 @@ QString benchmarkDatabase() {
 
 void benchRecordset() {
   openConnection(benchmarkDatabase());
-  Engine engine(benchmarkDatabase());
-  const std::string sql = dialect::translate(kAllProcesses, Conexao->catalogue()).sql;
+  PlainEngine engine(benchmarkDatabase());
+  const std::string sql =
+      sqlite::translate(dialect::analyse(kAllProcesses, Conexao->catalogue())).sql;
   sqlite3_stmt* statement = engine.prepare(sql);
   const auto [ours, peer] = medians(
       9, [] { loadAndRead(); }, [&] { copyEachCell(statement); });
@@ -191,7 +192,7 @@ void benchDialect() {
       "ORDER BY Adiantamento.ABERTURA, Requisicao.SEQ;");
   const Catalogue& catalogue = Conexao->catalogue();
   print({.measure = QStringLiteral("the longest statement to engine text"),
-         .ours = median(2'001, [&] { dialect::translate(longest, catalogue); }),
+         .ours = median(2'001, [&] { sqlite::translate(dialect::analyse(longest, catalogue)); }),
          .target = 40,
          .unit = QStringLiteral("us")});
   Fecha_banco();
@@ -204,7 +205,7 @@ void benchSave() {
   makeTown(oursPath, 100, 700);
   QFile::copy(oursPath, peerPath);
   openConnection(oursPath);
-  Engine engine(peerPath);
+  PlainEngine engine(peerPath);
   sqlite3_stmt* insert = engine.prepare(kInsert);
   const QByteArray justification = QByteArray("Despesas miúdas de pronto pagamento. ").repeated(4);
   Yes yes;
@@ -236,7 +237,7 @@ void benchLike() {
   QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("names.mdb"));
   makeTown(path, 100, 700);
-  Engine engine(path);
+  PlainEngine engine(path);
   engine.run(
       "INSERT INTO Tomador(NOME1, ATIVO) WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL "
       "SELECT i + 1 FROM n WHERE i < 2000) SELECT NOME1, 1 FROM Tomador, n LIMIT 100000");

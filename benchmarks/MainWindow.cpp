@@ -15,7 +15,7 @@
 #include "foundation/Caminhos.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/OpenForms.h"
-#include "platform/database/dialect/Dialect.h"
+#include "platform/database/engines/sqlite/Translation.h"
 #include "platform/values/Clock.h"
 #include "records/Principal.h"
 #include "records/cTodos.h"
@@ -39,7 +39,8 @@ const QString kStatements[] = {
 // The engine's text with the clock's moment in its place and without what only our connection
 // knows.
 QString plainText(const QString& statement) {
-  QString sql = QString::fromStdString(dialect::translate(statement, Conexao->catalogue()).sql);
+  QString sql = QString::fromStdString(
+      sqlite::translate(dialect::analyse(statement, Conexao->catalogue())).sql);
   sql.replace(QStringLiteral("?1"), '\'' + Clock::now().toIso() + '\'');
   return sql.remove(QStringLiteral(" COLLATE LATIN_NOCASE"));
 }

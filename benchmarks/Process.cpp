@@ -24,7 +24,7 @@
 #include "foundation/Caminhos.h"
 #include "foundation/Rotinas.h"
 #include "platform/controls/ListView.h"
-#include "platform/database/dialect/Dialect.h"
+#include "platform/database/engines/sqlite/Translation.h"
 #include "platform/values/Clock.h"
 #include "platform/values/Convert.h"
 #include "records/Principal.h"
@@ -192,9 +192,9 @@ void benchNotes(std::int32_t empenho) {
     list.addColumn(QString::number(column), ColumnWidth::pixels(150));
   }
   const QString sql = QString::fromStdString(
-      dialect::translate("Select * from PrestContas Where PROCESSO = " + QString::number(empenho) +
-                             " Order by DATA, SEQ;",
-                         Conexao->catalogue())
+      sqlite::translate(dialect::analyse("Select * from PrestContas Where PROCESSO = " +
+                                             QString::number(empenho) + " Order by DATA, SEQ;",
+                                         Conexao->catalogue()))
           .sql);
   cPrestContas& notes = cPrestContas::compartilhada();
   notes.processo = empenho;

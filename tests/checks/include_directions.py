@@ -45,6 +45,9 @@ GLOBALS = "foundation/Banco.h"
 NAMES_GLOBALS = re.compile(
     r"^(foundation/\w+|records/\w+|(masterdata|requests|sheets)/(c[A-Z]\w*|ListaCadastro|Pessoa)"
     r"|reports/ar\w+)\.cpp$")
+# An engine is known to its own folder and to the one file that opens it.
+ENGINES = "platform/database/engines/"
+OPENS_ENGINES = "platform/database/engines/Engines.cpp"
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 # Screens ask for documents through records/Impressao, whether they stand above the reports or below
 # them; the windows that reports/ has are opened like others.
@@ -73,6 +76,13 @@ def includes_of(source, path):
             yield number, match.group(1)
 
 
+def names_engine(path, target):
+    """Whether the file `path` includes an engine that it must not know."""
+    folder = Path(target).parent.as_posix() + "/"
+    return (target.startswith(ENGINES) and folder != ENGINES and path != OPENS_ENGINES
+            and not path.startswith(folder))
+
+
 def wrong_directions(path, includes):
     own = layer_of(path)
     if own is None:
@@ -85,7 +95,8 @@ def wrong_directions(path, includes):
         same_group = other is not None and RANK[other] == RANK[own] and other != own
         upward = other is not None and RANK[other] > RANK[own]
         document = DOCUMENT.match(target) and own not in OF_DOCUMENTS
-        if other is None or same_group or upward or document or other in FORBIDDEN.get(own, ()):
+        if (other is None or same_group or upward or document or other in FORBIDDEN.get(own, ())
+                or names_engine(path, target)):
             yield f"{path}:{number}: {own or 'src'} must not include {target}"
 
 

@@ -54,6 +54,17 @@ class IncludeDirections(unittest.TestCase):
             "records/cTodos.h": include, "masterdata/Tela.cpp": include,
             "screens/frmAviso.cpp": include, "shell/frmOficce.cpp": include}))
 
+    def test_an_engine_is_known_to_its_folder_alone(self):
+        engine = "platform/database/engines/sqlite/"
+        self.assertEqual(
+            ["platform/database/b.cpp:1: platform/database must not include " + engine + "a.h"],
+            problems_of({
+                engine + "a.h": '#include "platform/database/engines/Engine.h"\n',
+                engine + "a.cpp": f'#include "{engine}a.h"\n',
+                "platform/database/engines/Engine.h": "",
+                "platform/database/engines/Engines.cpp": f'#include "{engine}a.h"\n',
+                "platform/database/b.cpp": f'#include "{engine}a.h"\n'}))
+
     def test_a_circle_inside_a_folder_is_found(self):
         self.assertEqual(["circle: records/a.h -> records/b.h -> records/a.h"], problems_of({
             "records/a.h": '#include "records/b.h"\n', "records/b.h": '#include "records/a.h"\n'}))

@@ -8,13 +8,13 @@
 
 #include "platform/database/Connection.h"
 #include "platform/database/Recordset.h"
-#include "platform/database/dialect/Dialect.h"
-#include "platform/database/engines/sqlite/Session.h"
+#include "platform/database/engines/sqlite/Translation.h"
 #include "platform/values/Clock.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/database/PlainDatabase.h"
 #include "tests/database/Samples.h"
 #include "tests/database/statements/StatementCase.h"
+#include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
 
 namespace quartela::test {
@@ -279,8 +279,9 @@ void StatementsTest::everyIndexServes() {
 
 // What the engine tells of its way to the rows; of the look-ups that stand for a statement too.
 QStringList StatementsTest::planOf(const QString& statement) {
-  sqlite3* const handle = connection_.session().handle();
-  const dialect::EngineStatement engine = dialect::translate(statement, connection_.catalogue());
+  sqlite3* const handle = test::sqliteSession(connection_).handle();
+  const sqlite::EngineStatement engine =
+      sqlite::translate(dialect::analyse(statement, connection_.catalogue()));
   std::vector<std::string> texts{engine.sql};
   if (engine.leastMatch) {
     texts.push_back(engine.leastMatch->sql);

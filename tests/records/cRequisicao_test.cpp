@@ -8,9 +8,9 @@
 
 #include "foundation/Banco.h"
 #include "platform/controls/ScreenPointer.h"
-#include "platform/database/engines/sqlite/Session.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/support/ScriptedDialogs.h"
+#include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/office/Boxes.h"
 #include "tests/support/office/Samples.h"
@@ -304,7 +304,8 @@ class cRequisicaoTest : public QObject {
   static void allowGrowth(bool allow) {
     const char* const sql =
         allow ? "PRAGMA max_page_count = 1073741823" : "PRAGMA max_page_count = 1";
-    QCOMPARE(sqlite3_exec(Conexao->session().handle(), sql, nullptr, nullptr, nullptr), SQLITE_OK);
+    QCOMPARE(sqlite3_exec(test::sqliteSession(*Conexao).handle(), sql, nullptr, nullptr, nullptr),
+             SQLITE_OK);
   }
 
   std::unique_ptr<test::Office> office_;

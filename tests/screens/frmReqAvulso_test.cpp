@@ -9,11 +9,11 @@
 #include "foundation/Banco.h"
 #include "platform/controls/MaskedBox.h"
 #include "platform/controls/OpenForms.h"
-#include "platform/database/engines/sqlite/Session.h"
 #include "platform/values/Convert.h"
 #include "records/Principal.h"
 #include "records/cReqAvulso.h"
 #include "tests/screens/ProcessDesk.h"
+#include "tests/support/SqliteSession.h"
 #include "tests/support/WindowChecks.h"
 #include "tests/support/office/OfficeMain.h"
 
@@ -335,8 +335,8 @@ class frmReqAvulsoTest : public QObject {
     }
     ScriptedDialogs dialogs;
     dialogs.expectBox(boxes::askInclusion(), Button::Yes);
-    dialogs.expectBox(boxes::saveFailure(
-        locked ? ErrorNumber::RowLocked : ErrorNumber::ReadOnlyDatabase));
+    dialogs.expectBox(
+        boxes::saveFailure(locked ? ErrorNumber::RowLocked : ErrorNumber::ReadOnlyDatabase));
     desk_->click("cmdAplicar");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QCOMPARE(desk_->enabled(kButtons), QString("1001"));
@@ -606,7 +606,8 @@ class frmReqAvulsoTest : public QObject {
  private:
   static void writable(bool write) {
     const char* const sql = write ? "PRAGMA query_only = 0" : "PRAGMA query_only = 1";
-    QCOMPARE(sqlite3_exec(Conexao->session().handle(), sql, nullptr, nullptr, nullptr), SQLITE_OK);
+    QCOMPARE(sqlite3_exec(test::sqliteSession(*Conexao).handle(), sql, nullptr, nullptr, nullptr),
+             SQLITE_OK);
   }
 
   std::unique_ptr<AvulsoDesk> desk_;

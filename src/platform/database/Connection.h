@@ -18,7 +18,7 @@
 
 namespace quartela {
 
-class SqliteSession;
+class Engine;
 
 class Connection {
  public:
@@ -44,7 +44,7 @@ class Connection {
 
   // Runs one DELETE; gives the count of rows that it removed from the table it names.
   // Errors: 3704 closed, the dialect's, 3200 dependants, 3218 locked by another program.
-  int execute(const QString& statement);
+  int execute(const QString& text);
 
   // One transaction at a time (error 5 otherwise); beginning takes the write lock (3218 after a
   // short wait). A commit that fails leaves the transaction to be rolled back; a rollback without
@@ -58,11 +58,11 @@ class Connection {
   // What the opening has to tell an operator, such as what an interrupted save had left beside the
   // file; empty as a rule.
   const QStringList& notices() const;
-  SqliteSession& session();
+  Engine& engine();
 
  private:
   // Shared, so that a Recordset can tell that its connection has been closed.
-  std::shared_ptr<SqliteSession> session_;
+  std::shared_ptr<Engine> engine_;
   CursorLocation cursorLocation_ = Server;
 };
 

@@ -46,15 +46,15 @@ void Recordset::open(const QString& source, Connection& connection, CursorType, 
   if (data_) {
     throw RuntimeError(ErrorNumber::ObjectOpen);
   }
-  SqliteSession& session = connection.session();
-  dialect::EngineStatement statement = dialect::translate(source, session.catalogue());
-  if (statement.kind != dialect::StatementKind::Select) {
+  Engine& engine = connection.engine();
+  dialect::AnalysedStatement statement = dialect::analyse(source, engine.catalogue());
+  if (statement.kind() != dialect::StatementKind::Select) {
     throw RuntimeError(ErrorNumber::InvalidStatement);
   }
-  auto data = std::make_unique<Data>(session, std::move(statement), lock);
-  const bool toAddTo = lock == LockType::Pessimistic && isTableName(source, session.catalogue());
+  auto data = std::make_unique<Data>(engine, std::move(statement.result), lock);
+  const bool toAddTo = lock == LockType::Pessimistic && isTableName(source, engine.catalogue());
   if (!toAddTo) {
-    data->load(session);
+    engine.select(statement, data->layout.loaded, data->rows);
   }
   data_ = std::move(data);
 }
@@ -125,13 +125,13 @@ void Recordset::movePrevious() {
 }
 
 int Recordset::fieldCount() const {
-  return static_cast<int>(opened().statement.columns.size());
+  return static_cast<int>(opened().result.columns.size());
 }
 
 const QString& Recordset::fieldName(int position) const {
   const Data& data = opened();
   data.checkPosition(position);
-  return data.statement.columns[static_cast<std::size_t>(position)].name;
+  return data.result.columns[static_cast<std::size_t>(position)].name;
 }
 
 ValueType Recordset::fieldType(int position) const {
@@ -141,7 +141,7 @@ ValueType Recordset::fieldType(int position) const {
 }
 
 int Recordset::fieldPosition(QStringView name) const {
-  const auto& columns = opened().statement.columns;
+  const auto& columns = opened().result.columns;
   const auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& column) {
     return column.name.size() == name.size() && name.compare(column.name, Qt::CaseInsensitive) == 0;
   });
@@ -200,7 +200,7 @@ void Recordset::update() {
     data.requireCurrentRow();
     return;
   }
-  data.write(*data.openSession());
+  data.write(*data.openEngine());
 }
 
 void Recordset::cancelUpdate() {

@@ -2,15 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/database/engines/sqlite/LeastMatch.h"
-#include "platform/database/engines/sqlite/Parameters.h"
-#include "platform/database/engines/sqlite/RowLoader.h"
 #include "platform/values/RuntimeError.h"
 
 namespace quartela {
 namespace {
-
-using Cells = std::vector<sqlite::CellToWrite>;
 
 int positionOfColumn(const std::vector<dialect::ResultColumn>& columns, const QString& column) {
   const auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& candidate) {
@@ -28,10 +23,9 @@ ValueType typeOfColumn(const CatalogueTable& table, const QString& name) {
   throw RuntimeError(ErrorNumber::UnknownName, name);
 }
 
-void addKey(const dialect::EngineStatement& statement, const CatalogueTable& table,
-            RowLayout& layout) {
-  for (const QString& name : statement.keyColumns) {
-    layout.key.push_back({name, positionOfColumn(statement.columns, name)});
+void addKey(const dialect::Result& result, const CatalogueTable& table, RowLayout& layout) {
+  for (const QString& name : result.keyColumns) {
+    layout.key.push_back({name, positionOfColumn(result.columns, name)});
   }
   const bool shown = std::all_of(layout.key.begin(), layout.key.end(),
                                  [](const KeyColumn& column) { return column.position >= 0; });
@@ -45,23 +39,23 @@ void addKey(const dialect::EngineStatement& statement, const CatalogueTable& tab
   }
 }
 
-RowLayout layOut(const dialect::EngineStatement& statement, const CatalogueTable* table) {
+RowLayout layOut(const dialect::Result& result, const CatalogueTable* table) {
   RowLayout layout;
-  for (const dialect::ResultColumn& column : statement.columns) {
+  for (const dialect::ResultColumn& column : result.columns) {
     const bool computed = column.column.isEmpty();
     layout.loaded.push_back({column.name, column.type, computed});
     layout.inTable.push_back({column.column, column.type, computed});
   }
   if (table != nullptr) {
-    addKey(statement, *table, layout);
+    addKey(result, *table, layout);
   }
   return layout;
 }
 
-ResultRows rowsFor(const std::vector<sqlite::LoadedColumn>& columns) {
+ResultRows rowsFor(const LoadedColumns& columns) {
   std::vector<ValueType> types;
   types.reserve(columns.size());
-  for (const sqlite::LoadedColumn& column : columns) {
+  for (const LoadedColumn& column : columns) {
     types.push_back(column.type);
   }
   return ResultRows(std::move(types));
@@ -69,53 +63,27 @@ ResultRows rowsFor(const std::vector<sqlite::LoadedColumn>& columns) {
 
 }  // namespace
 
-Recordset::Data::Data(SqliteSession& from, dialect::EngineStatement translated, LockType lockType)
-    : session(from.weak_from_this()),
+Recordset::Data::Data(Engine& from, dialect::Result shown, LockType lockType)
+    : engine(from.weak_from_this()),
       lock(lockType),
-      statement(std::move(translated)),
-      layout(layOut(statement, lock == LockType::ReadOnly || statement.updatableTable.isEmpty()
-                                   ? nullptr
-                                   : &targetTable(from))),
+      result(std::move(shown)),
+      layout(layOut(result, lock == LockType::ReadOnly || result.updatableTable.isEmpty()
+                                ? nullptr
+                                : &targetTable(from))),
       rows(rowsFor(layout.loaded)) {}
 
-void Recordset::Data::load(SqliteSession& from) {
-  from.prepareToRead();
-  if (statement.leastMatch && loadLeastMatch(from)) {
-    return;
-  }
-  sqlite::Statement select(from.handle(), statement.sql, sqlite::Activity::Reading);
-  sqlite::bindParameters(select, statement);
-  while (select.step()) {
-    sqlite::loadRow(select, layout.loaded, rows);
-  }
-}
-
-bool Recordset::Data::loadLeastMatch(SqliteSession& from) {
-  const sqlite::FoundText found = sqlite::findLeastMatch(from, *statement.leastMatch);
-  if (found.text) {
-    sqlite::Statement select(from.handle(), from.prepared(statement.leastMatch->sql),
-                             sqlite::Activity::Reading);
-    select.bind(1, QString::fromStdString(*found.text));
-    if (!select.step()) {
-      return false;
-    }
-    sqlite::loadRow(select, layout.loaded, rows);
-  }
-  return found.known;
-}
-
-std::shared_ptr<SqliteSession> Recordset::Data::openSession() const {
-  auto open = session.lock();
+std::shared_ptr<Engine> Recordset::Data::openEngine() const {
+  auto open = engine.lock();
   if (!open) {
     throw RuntimeError(ErrorNumber::ObjectClosed);
   }
   return open;
 }
 
-const CatalogueTable& Recordset::Data::targetTable(const SqliteSession& from) const {
-  const CatalogueTable* const table = from.catalogue().table(statement.updatableTable);
+const CatalogueTable& Recordset::Data::targetTable(const Engine& from) const {
+  const CatalogueTable* const table = from.catalogue().table(result.updatableTable);
   if (table == nullptr) {
-    throw RuntimeError(ErrorNumber::UnknownTable, statement.updatableTable);
+    throw RuntimeError(ErrorNumber::UnknownTable, result.updatableTable);
   }
   return *table;
 }
@@ -134,18 +102,18 @@ void Recordset::Data::requireNoEdit() const {
 }
 
 void Recordset::Data::checkPosition(int column) const {
-  if (column < 0 || column >= static_cast<int>(statement.columns.size())) {
+  if (column < 0 || column >= static_cast<int>(result.columns.size())) {
     throw RuntimeError(ErrorNumber::ColumnNotFound, QString::number(column));
   }
 }
 
 // A column that the result bears twice is kept once, at its first position.
 int Recordset::Data::writablePosition(int column) const {
-  const QString& name = statement.columns[static_cast<std::size_t>(column)].column;
-  if (lock == LockType::ReadOnly || statement.updatableTable.isEmpty() || name.isEmpty()) {
+  const QString& name = result.columns[static_cast<std::size_t>(column)].column;
+  if (lock == LockType::ReadOnly || result.updatableTable.isEmpty() || name.isEmpty()) {
     throw RuntimeError(ErrorNumber::SourceReadOnly);
   }
-  return positionOfColumn(statement.columns, name);
+  return positionOfColumn(result.columns, name);
 }
 
 Value Recordset::Data::cell(int column) const {
@@ -153,8 +121,8 @@ Value Recordset::Data::cell(int column) const {
     requireCurrentRow();
     return rows.value(position, column);
   }
-  const QString& name = statement.columns[static_cast<std::size_t>(column)].column;
-  const int kept = name.isEmpty() ? column : positionOfColumn(statement.columns, name);
+  const QString& name = result.columns[static_cast<std::size_t>(column)].column;
+  const int kept = name.isEmpty() ? column : positionOfColumn(result.columns, name);
   const std::optional<Value>& set = edit->cells[static_cast<std::size_t>(kept)];
   if (set) {
     return *set;
@@ -163,11 +131,11 @@ Value Recordset::Data::cell(int column) const {
 }
 
 void Recordset::Data::beginNew() {
-  begin(*openSession(), true);
+  begin(*openEngine(), true);
 }
 
 void Recordset::Data::beginChange() {
-  const auto open = openSession();
+  const auto open = openEngine();
   begin(*open, false);
   try {
     requireRowInFile(*open);
@@ -177,59 +145,50 @@ void Recordset::Data::beginChange() {
   }
 }
 
-void Recordset::Data::begin(SqliteSession& in, bool adding) {
-  if (lock == LockType::ReadOnly || statement.updatableTable.isEmpty()) {
+void Recordset::Data::begin(Engine& in, bool adding) {
+  if (lock == LockType::ReadOnly || result.updatableTable.isEmpty()) {
     throw RuntimeError(ErrorNumber::SourceReadOnly);
   }
   Edit begun;
   begun.adding = adding;
-  begun.cells.resize(statement.columns.size());
+  begun.cells.resize(result.columns.size());
   if (lock == LockType::Pessimistic) {
-    in.addLockHolder();
+    in.holdRow(targetTable(in), adding ? CellsToWrite() : currentKey());
     begun.holdsLock = true;
   }
   edit = std::move(begun);
 }
 
-void Recordset::Data::requireRowInFile(SqliteSession& in) const {
-  const sqlite::RowWriter writer(in, targetTable(in), layout.inTable);
-  if (!writer.exists(currentKey())) {
+void Recordset::Data::requireRowInFile(Engine& in) const {
+  if (!in.hasRow(targetTable(in), currentKey())) {
     throw RuntimeError(ErrorNumber::RowDeleted);
   }
 }
 
-Cells Recordset::Data::cellsSet() const {
-  Cells cells;
+CellsToWrite Recordset::Data::cellsSet() const {
+  CellsToWrite cells;
   for (std::size_t i = 0; i < edit->cells.size(); ++i) {
     if (edit->cells[i]) {
-      cells.push_back({statement.columns[i].column, *edit->cells[i]});
+      cells.push_back({result.columns[i].column, *edit->cells[i]});
     }
   }
   return cells;
 }
 
-Cells Recordset::Data::currentKey() const {
-  Cells cells;
+CellsToWrite Recordset::Data::currentKey() const {
+  CellsToWrite cells;
   for (const KeyColumn& column : layout.key) {
     cells.push_back({column.name, rows.value(position, column.position)});
   }
   return cells;
 }
 
-// The row as the file then has it stands behind the others until the file has it for good.
-void Recordset::Data::write(SqliteSession& to) {
-  sqlite::WriteScope scope(to);
-  const sqlite::RowWriter writer(to, targetTable(to), layout.inTable);
+// The row as the file then has it stands behind the others until it is shown.
+void Recordset::Data::write(Engine& to) {
   if (edit->adding) {
-    writer.insert(cellsSet(), rows);
+    to.insertRow(targetTable(to), cellsSet(), layout.inTable, rows);
   } else {
-    writer.change(currentKey(), cellsSet(), rows);
-  }
-  try {
-    scope.commit();
-  } catch (...) {
-    rows.dropLastRow();
-    throw;
+    to.changeRow(targetTable(to), currentKey(), cellsSet(), layout.inTable, rows);
   }
   showWrittenRow();
   endEdit();
@@ -251,8 +210,8 @@ void Recordset::Data::showWrittenRow() {
 
 void Recordset::Data::endEdit() {
   if (edit && edit->holdsLock) {
-    if (const auto open = session.lock()) {
-      open->removeLockHolder();
+    if (const auto open = engine.lock()) {
+      open->releaseRow();
     }
   }
   edit.reset();

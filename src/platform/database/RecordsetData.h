@@ -9,8 +9,7 @@
 #include "platform/database/Recordset.h"
 #include "platform/database/ResultRows.h"
 #include "platform/database/dialect/Dialect.h"
-#include "platform/database/engines/sqlite/RowWriter.h"
-#include "platform/database/engines/sqlite/Session.h"
+#include "platform/database/engines/Engine.h"
 
 namespace quartela {
 
@@ -22,9 +21,9 @@ struct KeyColumn {
 // What is loaded of each row: the result's columns and, when the row's key is not among them, the
 // key behind them.
 struct RowLayout {
-  std::vector<sqlite::LoadedColumn> loaded;
+  LoadedColumns loaded;
   // The same columns under their names in the table, for reading a row back that has been written.
-  std::vector<sqlite::LoadedColumn> inTable;
+  LoadedColumns inTable;
   std::vector<KeyColumn> key;
 };
 
@@ -36,15 +35,11 @@ struct Recordset::Data {
     std::vector<std::optional<Value>> cells;
   };
 
-  Data(SqliteSession& from, dialect::EngineStatement translated, LockType lockType);
+  Data(Engine& from, dialect::Result shown, LockType lockType);
 
-  // Reads all rows; the first one is then current.
-  void load(SqliteSession& from);
-  // For a statement that asks for the least match; false when it has to be run as it is.
-  bool loadLeastMatch(SqliteSession& from);
   // Error 3704 when the connection has been closed meanwhile.
-  std::shared_ptr<SqliteSession> openSession() const;
-  const CatalogueTable& targetTable(const SqliteSession& from) const;
+  std::shared_ptr<Engine> openEngine() const;
+  const CatalogueTable& targetTable(const Engine& from) const;
 
   bool hasCurrentRow() const { return position >= 0 && position < rows.rowCount(); }
   void requireCurrentRow() const;
@@ -57,19 +52,19 @@ struct Recordset::Data {
   // Begin a row, with the write lock when the lock type asks for it.
   void beginNew();
   void beginChange();
-  void begin(SqliteSession& in, bool adding);
-  void requireRowInFile(SqliteSession& in) const;
+  void begin(Engine& in, bool adding);
+  void requireRowInFile(Engine& in) const;
   // Writes the row begun, shows it and ends it; a failure leaves all as it was.
-  void write(SqliteSession& to);
+  void write(Engine& to);
   void showWrittenRow();
   // Forgets the row begun, if there is one, and gives its lock up.
   void endEdit();
-  std::vector<sqlite::CellToWrite> cellsSet() const;
-  std::vector<sqlite::CellToWrite> currentKey() const;
+  CellsToWrite cellsSet() const;
+  CellsToWrite currentKey() const;
 
-  std::weak_ptr<SqliteSession> session;
+  std::weak_ptr<Engine> engine;
   LockType lock;
-  dialect::EngineStatement statement;
+  dialect::Result result;
   RowLayout layout;
   ResultRows rows;
   int position = 0;

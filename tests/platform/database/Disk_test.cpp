@@ -3,6 +3,7 @@
 #include "platform/database/engines/sqlite/Session.h"
 #include "tests/platform/database/PrivateMounts.h"
 #include "tests/platform/database/SmallDatabase.h"
+#include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -17,7 +18,7 @@ const QString kLong(20'000, QLatin1Char('x'));
 
 // No page more than the file has now.
 void stopGrowth(Connection& connection, bool stop) {
-  sqlite3* const db = connection.session().handle();
+  sqlite3* const db = test::sqliteSession(connection).handle();
   const char* const sql = stop ? "PRAGMA max_page_count = 1" : "PRAGMA max_page_count = 1073741823";
   QCOMPARE(sqlite3_exec(db, sql, nullptr, nullptr, nullptr), SQLITE_OK);
 }

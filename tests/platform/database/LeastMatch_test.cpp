@@ -6,6 +6,7 @@
 #include "platform/database/engines/sqlite/Latin.h"
 #include "platform/values/Convert.h"
 #include "tests/platform/database/SmallDatabase.h"
+#include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -214,12 +215,12 @@ class LeastMatch_test : public QObject {
   }
 
  private:
-  dialect::EngineStatement translated(const QString& sql) const {
-    return dialect::translate(sql, connection_->catalogue());
+  sqlite::EngineStatement translated(const QString& sql) const {
+    return sqlite::translate(dialect::analyse(sql, connection_->catalogue()));
   }
 
   sqlite::FoundText byIndex(const QString& prefix) const {
-    return sqlite::findLeastMatch(connection_->session(),
+    return sqlite::findLeastMatch(test::sqliteSession(*connection_),
                                   *translated(statement(prefix)).leastMatch);
   }
 

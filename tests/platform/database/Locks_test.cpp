@@ -3,6 +3,7 @@
 
 #include "platform/database/engines/sqlite/Session.h"
 #include "tests/platform/database/SmallDatabase.h"
+#include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -63,7 +64,7 @@ void Locks::init() {
   second_ = std::make_unique<Connection>();
   database_->open(*first_);
   database_->open(*second_);
-  QCOMPARE(sqlite3_busy_timeout(second_->session().handle(), 20), SQLITE_OK);
+  QCOMPARE(sqlite3_busy_timeout(test::sqliteSession(*second_).handle(), 20), SQLITE_OK);
 }
 
 void Locks::cleanup() {

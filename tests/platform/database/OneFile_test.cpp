@@ -7,6 +7,7 @@
 #include "platform/database/engines/sqlite/Session.h"
 #include "tests/platform/database/AnotherUser.h"
 #include "tests/platform/database/SmallDatabase.h"
+#include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -99,8 +100,8 @@ void OneFile::copiesHoldEverySavedRow() {
   Connection connection;
   database.open(connection);
   // What a copy holds does not depend on what is on the disk already.
-  sqlite3_exec(connection.session().handle(), "PRAGMA synchronous = OFF", nullptr, nullptr,
-               nullptr);
+  sqlite3_exec(test::sqliteSession(connection).handle(), "PRAGMA synchronous = OFF", nullptr,
+               nullptr, nullptr);
   const QString copied = database.folder() + QStringLiteral("/copia.mdb");
   QRandomGenerator random(20141121);
   int saved = 0;
@@ -128,7 +129,7 @@ void OneFile::interruptedSaveIsUndone() {
   Connection connection;
   connection.open(SmallDatabase::textFor(left));
   QCOMPARE(rowsSeen(connection), kFilled);
-  QVERIFY(connection.session().notices().isEmpty());
+  QVERIFY(connection.engine().notices().isEmpty());
   connection.close();
   QCOMPARE(PlainSql(left).ask(kHalf), QStringLiteral("0"));
   QVERIFY(!QFile::exists(left + QStringLiteral("-journal")));
@@ -155,8 +156,8 @@ void OneFile::journalOfAnotherStateIsKeptAside() {
   connection.open(SmallDatabase::textFor(left));
   QCOMPARE(rowsSeen(connection), kFilled);
   const QString kept = journal + QStringLiteral(".nao-aplicado");
-  QCOMPARE(connection.session().notices().size(), 1);
-  const QString said = connection.session().notices().first();
+  QCOMPARE(connection.engine().notices().size(), 1);
+  const QString said = connection.engine().notices().first();
   QVERIFY2(said.contains(left) && said.contains(kept), qPrintable(said));
   save(connection, QStringLiteral("c"));
   connection.close();
@@ -224,7 +225,7 @@ void OneFile::journalOfASaveThatDidNotBegin() {
   Connection connection;
   connection.open(SmallDatabase::textFor(left));
   QCOMPARE(rowsSeen(connection), kFilled + 1);
-  QVERIFY(connection.session().notices().isEmpty());
+  QVERIFY(connection.engine().notices().isEmpty());
   QVERIFY(!QFile::exists(journal));
   connection.close();
   QVERIFY(contentOf(left) == longer);
@@ -289,7 +290,7 @@ void OneFile::logOfAnotherStateIsKeptAside() {
   Connection connection;
   connection.open(SmallDatabase::textFor(left));
   QCOMPARE(rowsSeen(connection), kRowsAtFirst);
-  QCOMPARE(connection.session().notices().size(), 1);
+  QCOMPARE(connection.engine().notices().size(), 1);
   QVERIFY(QFile::exists(log + QStringLiteral(".nao-aplicado")));
   QVERIFY(!QFile::exists(log));
 }
@@ -423,7 +424,7 @@ void OneFile::savingWaitsForReaders() {
   SmallDatabase database;
   Connection connection;
   database.open(connection);
-  QCOMPARE(sqlite3_busy_timeout(connection.session().handle(), 20), SQLITE_OK);
+  QCOMPARE(sqlite3_busy_timeout(test::sqliteSession(connection).handle(), 20), SQLITE_OK);
   PlainSql reader(database.path());
   reader.run("BEGIN");
   QCOMPARE(reader.ask(kCount).toInt(), kRowsAtFirst);

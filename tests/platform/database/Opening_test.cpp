@@ -7,6 +7,7 @@
 #include "platform/database/engines/sqlite/Session.h"
 #include "tests/platform/database/AnotherUser.h"
 #include "tests/platform/database/SmallDatabase.h"
+#include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -216,7 +217,7 @@ void Opening::everythingElseNeedsAnOpenConnection() {
   QCOMPARE(errorOf([&] { connection.commit(); }), 3704);
   QCOMPARE(errorOf([&] { connection.rollback(); }), 3704);
   QCOMPARE(errorOf([&] { connection.catalogue(); }), 3704);
-  QCOMPARE(errorOf([&] { connection.session(); }), 3704);
+  QCOMPARE(errorOf([&] { connection.engine(); }), 3704);
   QCOMPARE(errorOf([&] { recordset.open(QStringLiteral("Orgao"), connection); }), 3704);
   QVERIFY(!connection.inTransaction());
   QCOMPARE(connection.cursorLocation(), Connection::Server);
@@ -230,7 +231,7 @@ void Opening::settings() {
   database.open(connection);
   const auto setting = [&](const char* pragma) {
     sqlite3_stmt* statement = nullptr;
-    sqlite3_prepare_v2(connection.session().handle(), pragma, -1, &statement, nullptr);
+    sqlite3_prepare_v2(test::sqliteSession(connection).handle(), pragma, -1, &statement, nullptr);
     sqlite3_step(statement);
     const QString answer =
         QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement, 0)));

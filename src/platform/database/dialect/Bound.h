@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "platform/database/dialect/Catalogue.h"
-#include "platform/database/dialect/Dialect.h"
 #include "platform/database/dialect/Tree.h"
 
 namespace quartela::dialect::bound {

@@ -1,9 +1,7 @@
 #include "platform/database/dialect/Dialect.h"
 
 #include "platform/database/dialect/Binder.h"
-#include "platform/database/dialect/LeastMatchFinder.h"
 #include "platform/database/dialect/Parser.h"
-#include "platform/database/dialect/Renderer.h"
 
 namespace quartela::dialect {
 namespace {
@@ -20,37 +18,33 @@ ResultColumn resultColumn(const bound::Statement& statement, const bound::Output
   return column;
 }
 
-void describeResult(const bound::Statement& statement, EngineStatement& engine) {
-  engine.columns.reserve(statement.select->outputs.size());
+Result resultOf(const bound::Statement& statement) {
+  Result result;
+  result.columns.reserve(statement.select->outputs.size());
   for (const bound::Output& output : statement.select->outputs) {
-    engine.columns.push_back(resultColumn(statement, output));
+    result.columns.push_back(resultColumn(statement, output));
   }
   if (statement.updatable == kNone) {
-    return;
+    return result;
   }
-  engine.updatableTable = statement.source(statement.updatable).table->name;
+  result.updatableTable = statement.source(statement.updatable).table->name;
   for (const Index key : statement.keyNodes) {
-    engine.keyColumns.push_back(bound::originOf(statement, key).column->name);
+    result.keyColumns.push_back(bound::originOf(statement, key).column->name);
   }
+  return result;
 }
 
 }  // namespace
 
-EngineStatement translate(QStringView statement, const Catalogue& catalogue) {
-  // A letter and an accent behind it are the composed letter, however they were typed.
-  const QString composed = statement.toString().normalized(QString::NormalizationForm_C);
-  const Tree tree = parse(composed);
-  const bound::Statement bound = bind(tree, catalogue);
-  EngineStatement engine;
-  engine.kind = bound.kind;
-  engine.sql = Renderer(bound).render(engine.parameters);
-  if (bound.kind == StatementKind::Select) {
-    describeResult(bound, engine);
-    engine.leastMatch = findLeastMatch(bound);
-  } else {
-    engine.target = bound.sources.front().table->name;
+AnalysedStatement analyse(QStringView statement, const Catalogue& catalogue) {
+  AnalysedStatement analysed;
+  analysed.text = statement.toString().normalized(QString::NormalizationForm_C);
+  const Tree tree = parse(analysed.text);
+  analysed.bound = bind(tree, catalogue);
+  if (analysed.kind() == StatementKind::Select) {
+    analysed.result = resultOf(analysed.bound);
   }
-  return engine;
+  return analysed;
 }
 
 }  // namespace quartela::dialect

@@ -7,9 +7,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "platform/database/dialect/Dialect.h"
-
 namespace quartela::dialect {
+
+enum class StatementKind : std::uint8_t { Select, Delete };
 
 using Index = std::int32_t;
 inline constexpr Index kNone = -1;

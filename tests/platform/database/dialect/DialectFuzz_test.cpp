@@ -7,6 +7,7 @@
 #include "platform/values/RuntimeError.h"
 #include "tests/platform/database/dialect/SampleEngine.h"
 #include "tests/platform/database/dialect/SampleStatements.h"
+#include "tests/platform/database/dialect/Translated.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -232,7 +233,7 @@ class DialectFuzzTest : public QObject {
     for (int i = 0; i < count && !QTest::currentTestFailed(); ++i) {
       const QString statement = source.next();
       try {
-        check(engine, statement, dialect::translate(statement, catalogue));
+        check(engine, statement, test::translate(statement, catalogue));
         ++taken;
       } catch (const RuntimeError& error) {
         if (!kNumbers.contains(error.number())) {
@@ -244,7 +245,7 @@ class DialectFuzzTest : public QObject {
   }
 
   static void check(test::SampleEngine& engine, const QString& statement,
-                    const dialect::EngineStatement& translated) {
+                    const test::Translated& translated) {
     const bool deletes = translated.kind == dialect::StatementKind::Delete;
     QVERIFY2(translated.sql.starts_with(deletes ? "DELETE FROM " : "SELECT "),
              translated.sql.c_str());

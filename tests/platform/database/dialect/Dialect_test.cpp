@@ -5,10 +5,11 @@
 #include "platform/values/RuntimeError.h"
 #include "tests/platform/database/dialect/SampleEngine.h"
 #include "tests/platform/database/dialect/SampleStatements.h"
+#include "tests/platform/database/dialect/Translated.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
-using dialect::EngineStatement;
+using EngineStatement = test::Translated;
 
 namespace {
 
@@ -49,7 +50,7 @@ class DialectTest : public QObject {
   }
 
   EngineStatement translated(const QString& statement) {
-    EngineStatement engine = dialect::translate(statement, catalogue_);
+    EngineStatement engine = test::translate(statement, catalogue_);
     const QString refused = engine_.refusal(engine.sql, engineColumns(engine));
     if (!refused.isEmpty()) {
       qWarning("%s: %s", engine.sql.c_str(), qPrintable(refused));
@@ -358,7 +359,7 @@ class DialectTest : public QObject {
     const EngineStatement engine =
         translated(QStringLiteral("SELECT Now(), Now() + 1, Year(Now()) FROM Cidades"));
     QCOMPARE(engine.parameters.size(), 1U);
-    QCOMPARE(engine.parameters.front(), dialect::Parameter::Now);
+    QCOMPARE(engine.parameters.front(), sqlite::Parameter::Now);
   }
 
   // Nesting is refused before the engine would choke on it, and not before it is of use.

@@ -2,6 +2,7 @@
 #include "platform/database/dialect/Dialect.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/platform/database/dialect/SampleCatalogue.h"
+#include "tests/platform/database/dialect/Translated.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -39,7 +40,7 @@ class DialectErrorsTest : public QObject {
     QFETCH(int, number);
     QFETCH(QString, detail);
     try {
-      const dialect::EngineStatement engine = dialect::translate(statement, catalogue_);
+      const test::Translated engine = test::translate(statement, catalogue_);
       QFAIL(engine.sql.c_str());
     } catch (const RuntimeError& error) {
       QCOMPARE(error.number(), number);

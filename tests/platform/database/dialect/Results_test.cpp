@@ -1,6 +1,7 @@
 // What the engine counts with the rendered texts: amounts, dates, nulls and texts come out right.
 #include "platform/database/dialect/Dialect.h"
 #include "tests/platform/database/dialect/SampleEngine.h"
+#include "tests/platform/database/dialect/Translated.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -13,7 +14,7 @@ class DialectResultsTest : public QObject {
   test::SampleEngine engine_;
 
   QString rows(const QString& statement) {
-    return engine_.rows(dialect::translate(statement, catalogue_).sql);
+    return engine_.rows(test::translate(statement, catalogue_).sql);
   }
 
  private slots:

@@ -2,10 +2,11 @@
 #include "platform/database/dialect/Dialect.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/platform/database/dialect/SampleEngine.h"
+#include "tests/platform/database/dialect/Translated.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
-using dialect::EngineStatement;
+using EngineStatement = test::Translated;
 
 namespace {
 
@@ -23,7 +24,7 @@ class StoredQueriesTest : public QObject {
   test::SampleEngine engine_;
 
   EngineStatement translated(const QString& statement) {
-    EngineStatement engine = dialect::translate(statement, catalogue_);
+    EngineStatement engine = test::translate(statement, catalogue_);
     const QString refused = engine_.refusal(
         engine.sql, static_cast<int>(engine.columns.size() + engine.keyColumns.size()));
     if (!refused.isEmpty()) {
@@ -210,26 +211,25 @@ class StoredQueriesTest : public QObject {
   void aTableStandsBeforeAQueryOfItsName() {
     Catalogue catalogue = test::sampleCatalogue();
     catalogue.addStoredQuery(QStringLiteral("Orgao"), QStringLiteral("SELECT * FROM Cidades"));
-    QCOMPARE(dialect::translate(u"Orgao", catalogue).columns.front().name,
-             QStringLiteral("IDORGAO"));
+    QCOMPARE(test::translate(u"Orgao", catalogue).columns.front().name, QStringLiteral("IDORGAO"));
   }
 
   void aQueryThatChangesIsReadAgain() {
     Catalogue catalogue = test::sampleCatalogue();
-    QCOMPARE(dialect::translate(u"sel_uf", catalogue).columns.size(), 1U);
+    QCOMPARE(test::translate(u"sel_uf", catalogue).columns.size(), 1U);
     catalogue.addStoredQuery(QStringLiteral("SEL_UF"),
                              QStringLiteral("SELECT id, uf FROM Cidades"));
-    QCOMPARE(dialect::translate(u"sel_uf", catalogue).columns.size(), 2U);
+    QCOMPARE(test::translate(u"sel_uf", catalogue).columns.size(), 2U);
   }
 
   void aCopyOutlivesItsCatalogue() {
     Catalogue copy;
     {
       const Catalogue first = test::sampleCatalogue();
-      dialect::translate(u"Sel_Uf", first);
+      test::translate(u"Sel_Uf", first);
       copy = first;
     }
-    QCOMPARE(dialect::translate(u"Sel_Uf", copy).columns.front().name, QStringLiteral("uf"));
+    QCOMPARE(test::translate(u"Sel_Uf", copy).columns.front().name, QStringLiteral("uf"));
   }
 
   void theCatalogueFindsNames() {

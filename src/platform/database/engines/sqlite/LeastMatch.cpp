@@ -73,7 +73,7 @@ struct Head {
 
 class Search {
  public:
-  Search(SqliteSession& session, const dialect::LeastMatch& wanted)
+  Search(SqliteSession& session, const LeastMatch& wanted)
       : db_(session.handle()),
         first_(session.prepared(lookUp(wanted, ""))),
         last_(session.prepared(lookUp(wanted, " DESC"))) {}
@@ -90,7 +90,7 @@ class Search {
   }
 
  private:
-  static std::string lookUp(const dialect::LeastMatch& wanted, const char* direction) {
+  static std::string lookUp(const LeastMatch& wanted, const char* direction) {
     const std::string column = quoted(wanted.column) + " COLLATE NOCASE";
     return "SELECT " + quoted(wanted.column) + " FROM " + quoted(wanted.table) + " WHERE " +
            column + " >= ?1 AND " + column + " < ?2 ORDER BY " + column + direction + " LIMIT 1";
@@ -235,7 +235,7 @@ class Search {
   KeptStatement last_;
 };
 
-bool hasIndex(SqliteSession& session, const dialect::LeastMatch& wanted) {
+bool hasIndex(SqliteSession& session, const LeastMatch& wanted) {
   Statement statement(session.handle(),
                       session.prepared("SELECT 1 FROM pragma_index_list(?1) AS l,"
                                        " pragma_index_xinfo(l.name) AS x"
@@ -249,7 +249,7 @@ bool hasIndex(SqliteSession& session, const dialect::LeastMatch& wanted) {
 
 }  // namespace
 
-FoundText findLeastMatch(SqliteSession& session, const dialect::LeastMatch& wanted) {
+FoundText findLeastMatch(SqliteSession& session, const LeastMatch& wanted) {
   const ReadScope scope(session.handle());
   if (!hasIndex(session, wanted)) {
     return {};

@@ -10,8 +10,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/database/dialect/Dialect.h"
 #include "platform/database/engines/sqlite/Session.h"
+#include "platform/database/engines/sqlite/Translation.h"
 
 namespace quartela::sqlite {
 
@@ -22,6 +22,6 @@ struct FoundText {
   std::optional<std::string> text;  // none: no text begins so
 };
 
-FoundText findLeastMatch(SqliteSession& session, const dialect::LeastMatch& wanted);
+FoundText findLeastMatch(SqliteSession& session, const LeastMatch& wanted);
 
 }  // namespace quartela::sqlite

@@ -4,12 +4,12 @@
 
 namespace quartela::sqlite {
 
-void bindParameters(Statement& statement, const dialect::EngineStatement& translated) {
+void bindParameters(Statement& statement, const EngineStatement& translated) {
   int index = 0;
-  for (const dialect::Parameter parameter : translated.parameters) {
+  for (const Parameter parameter : translated.parameters) {
     ++index;
     switch (parameter) {
-      case dialect::Parameter::Now:
+      case Parameter::Now:
         statement.bind(index, Clock::now());
         break;
     }

@@ -92,8 +92,7 @@ bool hasParent(sqlite3* db, const Relation& relation, const Value& value) {
   return select.step();
 }
 
-QString missingParent(sqlite3* db, const CatalogueTable& table,
-                      const std::vector<CellToWrite>& cells) {
+QString missingParent(sqlite3* db, const CatalogueTable& table, const CellsToWrite& cells) {
   for (const Relation& relation : relations(db, "t.name", table.name)) {
     for (const CellToWrite& cell : cells) {
       if (cell.column.compare(relation.column, Qt::CaseInsensitive) == 0 && !cell.value.isNull() &&
@@ -110,8 +109,7 @@ QString missingParent(sqlite3* db, const CatalogueTable& table,
 // go along are looked below in their turn.
 class Dependants {
  public:
-  Dependants(sqlite3* db, const dialect::EngineStatement& deletion)
-      : db_(db), deletion_(deletion) {}
+  Dependants(sqlite3* db, const EngineStatement& deletion) : db_(db), deletion_(deletion) {}
 
   QString tableBelow(const QString& table, const std::string& selected, int depth = 0) const {
     if (depth == kDeepestRelation) {
@@ -139,7 +137,7 @@ class Dependants {
   }
 
   sqlite3* db_;
-  const dialect::EngineStatement& deletion_;
+  const EngineStatement& deletion_;
 };
 
 }  // namespace
@@ -153,7 +151,7 @@ bool isConstraint(int code) {
 }
 
 void raiseRefusedRow(sqlite3* db, int code, const CatalogueTable& table,
-                     const std::vector<CellToWrite>& cells) {
+                     const CellsToWrite& cells) {
   const QString subject = sqlite::subject(db);
   switch (code) {
     case SQLITE_CONSTRAINT_FOREIGNKEY:
@@ -174,8 +172,7 @@ void raiseRefusedRow(sqlite3* db, int code, const CatalogueTable& table,
                                                     : fields(column, table.name));
 }
 
-void raiseRefusedDeletion(sqlite3* db, const dialect::EngineStatement& deletion,
-                          const QString& table) {
+void raiseRefusedDeletion(sqlite3* db, const EngineStatement& deletion, const QString& table) {
   static constexpr std::string_view kDelete = "DELETE";
   const QString kept =
       Dependants(db, deletion).tableBelow(table, deletion.sql.substr(kDelete.size()));

@@ -5,19 +5,19 @@
 #include <string>
 #include <vector>
 
-#include "platform/database/dialect/Dialect.h"
 #include "platform/database/engines/sqlite/RowWriter.h"
+#include "platform/database/engines/sqlite/Translation.h"
 
 namespace quartela::sqlite {
 
 // The errors of a row that a constraint has refused, `code` being the engine's: 3022, 3201, 3314
 // and 3317. `cells` are those that were to be written.
 [[noreturn]] void raiseRefusedRow(sqlite3* db, int code, const CatalogueTable& table,
-                                  const std::vector<CellToWrite>& cells);
+                                  const CellsToWrite& cells);
 
 // The error of a DELETE that a relation has refused: 3200, with the table whose rows depend on
 // those that were to go.
-[[noreturn]] void raiseRefusedDeletion(sqlite3* db, const dialect::EngineStatement& deletion,
+[[noreturn]] void raiseRefusedDeletion(sqlite3* db, const EngineStatement& deletion,
                                        const QString& table);
 
 bool isConstraint(int code);

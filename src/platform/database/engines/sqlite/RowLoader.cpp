@@ -112,8 +112,7 @@ class RowCells {
 
 }  // namespace
 
-void loadRow(const Statement& statement, const std::vector<LoadedColumn>& columns,
-             ResultRows& rows) {
+void loadRow(const Statement& statement, const LoadedColumns& columns, ResultRows& rows) {
   rows.addRow();
   RowCells cells(statement.raw(), rows);
   const int count = static_cast<int>(columns.size());

@@ -10,7 +10,7 @@
 namespace quartela::sqlite {
 namespace {
 
-using Cells = std::vector<CellToWrite>;
+using Cells = CellsToWrite;
 
 [[noreturn]] void raiseRequired(const CatalogueTable& table, const CatalogueColumn& column) {
   throw RuntimeError(ErrorNumber::ColumnRequired, namedField(table, column.name));
@@ -55,7 +55,7 @@ const CellToWrite* cellOf(const Cells& cells, const QString& column) {
 }  // namespace
 
 RowWriter::RowWriter(SqliteSession& session, const CatalogueTable& table,
-                     const std::vector<LoadedColumn>& returned)
+                     const LoadedColumns& returned)
     : session_(session), table_(table), returned_(returned) {}
 
 void RowWriter::insert(const Cells& cells, ResultRows& rows) const {

@@ -292,12 +292,12 @@ void SqliteSession::rollback() {
   keepLock();
 }
 
-void SqliteSession::addLockHolder() {
+void SqliteSession::holdRow(const CatalogueTable&, const CellsToWrite&) {
   takeLock();
   ++lockHolders_;
 }
 
-void SqliteSession::removeLockHolder() {
+void SqliteSession::releaseRow() {
   --lockHolders_;
   if (lockHolders_ == 0 && !transaction_) {
     giveUpTransaction();

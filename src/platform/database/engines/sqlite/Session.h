@@ -20,8 +20,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "platform/database/SchemaSteps.h"
-#include "platform/database/dialect/Catalogue.h"
+#include "platform/database/engines/Engine.h"
 #include "platform/database/engines/sqlite/FileCheck.h"
 #include "platform/database/engines/sqlite/PrivateCopy.h"
 #include "platform/database/engines/sqlite/Statement.h"
@@ -36,10 +35,11 @@ struct CloseHandle {
 using Handle = std::unique_ptr<sqlite3, CloseHandle>;
 
 class WriteScope;
+struct LeastMatch;
 
 }  // namespace sqlite
 
-class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
+class SqliteSession : public Engine {
  public:
   // Opens the file; the errors are those of Connection::open. A file or folder that is protected
   // against writing is opened for reading. A file that an earlier program has left with a
@@ -47,15 +47,10 @@ class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
   // `steps`; 3218 while another program works with it so.
   explicit SqliteSession(const QString& path, const SchemaSteps& steps = {});
   // Rolls back what is open and leaves one file.
-  ~SqliteSession();
-  SqliteSession(const SqliteSession&) = delete;
-  SqliteSession& operator=(const SqliteSession&) = delete;
+  ~SqliteSession() override;
 
   sqlite3* handle() const { return db_.get(); }
-  const Catalogue& catalogue() const { return catalogue_; }
   const QString& path() const { return path_; }
-  // What the opening has to tell an operator; empty as a rule.
-  const QStringList& notices() const { return notices_; }
 
   // To be called before rows are read. Without the right to write, an interrupted save of another
   // program cannot be undone in the file; it is then read from a copy, which this brings up to
@@ -66,18 +61,26 @@ class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
   // write with its checks takes longer than running it. To be used by one Statement at a time.
   sqlite::KeptStatement prepared(const std::string& sql);
 
-  // The transaction of Connection, one at a time. Error 5 for a second one, and for a commit
-  // without one or when the engine has given it up by itself. A rollback without one does nothing.
-  // Beginning and committing raise 3043 when the path leads to another file, or to none, by now.
-  void beginTransaction();
-  void commit();
-  void rollback();
-  bool inTransaction() const { return transaction_; }
+  const Catalogue& catalogue() const override { return catalogue_; }
+  const QStringList& notices() const override { return notices_; }
+  void select(const dialect::AnalysedStatement& statement, const LoadedColumns& columns,
+              ResultRows& rows) override;
+  int remove(const dialect::AnalysedStatement& statement) override;
 
-  // A row begun that keeps the write lock until the holder is removed; 3218 when another program
-  // has it.
-  void addLockHolder();
-  void removeLockHolder();
+  // Beginning and committing raise 3043 when the path leads to another file, or to none, by now.
+  void beginTransaction() override;
+  void commit() override;
+  void rollback() override;
+  bool inTransaction() const override { return transaction_; }
+
+  // The lock is the file's, whatever the row.
+  void holdRow(const CatalogueTable& table, const CellsToWrite& key) override;
+  void releaseRow() override;
+  bool hasRow(const CatalogueTable& table, const CellsToWrite& key) override;
+  void insertRow(const CatalogueTable& table, const CellsToWrite& cells,
+                 const LoadedColumns& returned, ResultRows& rows) override;
+  void changeRow(const CatalogueTable& table, const CellsToWrite& key, const CellsToWrite& cells,
+                 const LoadedColumns& returned, ResultRows& rows) override;
 
  private:
   friend class sqlite::WriteScope;
@@ -87,6 +90,10 @@ class SqliteSession : public std::enable_shared_from_this<SqliteSession> {
   void openForReading();
   void clearBeside();
   void keepAside(const QString& name);
+  bool selectLeastMatch(const sqlite::LeastMatch& wanted, const LoadedColumns& columns,
+                        ResultRows& rows);
+  template <typename Write>
+  void writeRow(ResultRows& rows, Write write);
   void takeLock();
   void requireSameFile() const;
   void engineCommit();

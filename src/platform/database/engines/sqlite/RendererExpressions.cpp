@@ -3,9 +3,9 @@
 #include "platform/database/dialect/DateLiteral.h"
 #include "platform/database/dialect/Errors.h"
 #include "platform/database/dialect/Names.h"
-#include "platform/database/dialect/Renderer.h"
+#include "platform/database/engines/sqlite/Renderer.h"
 
-namespace quartela::dialect {
+namespace quartela::sqlite {
 
 using bound::Node;
 using bound::Op;
@@ -115,7 +115,7 @@ void Renderer::expression(Index index) {
   const int entries = stackEntries(statement_, node);
   open_ += entries;
   if (out_.size() > kLongestText || open_ > kParserStack) {
-    tooComplex();
+    dialect::tooComplex();
   }
   operation(node);
   open_ -= entries;
@@ -152,7 +152,7 @@ void Renderer::leaf(const Node& node) {
       return;
     case Op::Text:
       out_ += '\'';
-      appendUtf8(out_, node.text, u'\'', node.quote);
+      dialect::appendUtf8(out_, node.text, u'\'', node.quote);
       out_ += '\'';
       return;
     case Op::Date:
@@ -196,9 +196,9 @@ void Renderer::number(const Node& node) {
 }
 
 void Renderer::date(const Node& node) {
-  if (const std::optional<DateTime> moment = readDate(node.text)) {
+  if (const std::optional<DateTime> moment = dialect::readDate(node.text)) {
     out_ += '\'';
-    appendUtf8(out_, moment->toIso());
+    dialect::appendUtf8(out_, moment->toIso());
     out_ += '\'';
   }
 }
@@ -376,4 +376,4 @@ void Renderer::rounded(const char* before, Index operand, const char* after) {
   out_ += ") AS INTEGER)";
 }
 
-}  // namespace quartela::dialect
+}  // namespace quartela::sqlite

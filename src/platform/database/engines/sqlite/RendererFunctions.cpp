@@ -1,6 +1,6 @@
-#include "platform/database/dialect/Renderer.h"
+#include "platform/database/engines/sqlite/Renderer.h"
 
-namespace quartela::dialect {
+namespace quartela::sqlite {
 
 using bound::Node;
 using bound::Op;
@@ -76,4 +76,4 @@ void Renderer::aggregate(const Node& node) {
   }
 }
 
-}  // namespace quartela::dialect
+}  // namespace quartela::sqlite

@@ -1,9 +1,9 @@
-#include "platform/database/dialect/Renderer.h"
+#include "platform/database/engines/sqlite/Renderer.h"
 
 #include "platform/database/dialect/Errors.h"
 #include "platform/database/dialect/Names.h"
 
-namespace quartela::dialect {
+namespace quartela::sqlite {
 
 using bound::Join;
 using bound::Joins;
@@ -24,7 +24,7 @@ Renderer::Renderer(const bound::Statement& statement)
 }
 
 std::string Renderer::render(std::vector<Parameter>& parameters) {
-  if (statement_.kind == StatementKind::Delete) {
+  if (statement_.kind == dialect::StatementKind::Delete) {
     deletion();
   } else {
     select(*statement_.select, false);
@@ -158,8 +158,8 @@ void Renderer::deletion() {
 
 void Renderer::name(QStringView text) {
   out_ += '"';
-  appendUtf8(out_, text, u'"');
+  dialect::appendUtf8(out_, text, u'"');
   out_ += '"';
 }
 
-}  // namespace quartela::dialect
+}  // namespace quartela::sqlite

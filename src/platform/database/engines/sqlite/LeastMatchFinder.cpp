@@ -1,18 +1,17 @@
-#include "platform/database/dialect/LeastMatchFinder.h"
+#include "platform/database/engines/sqlite/LeastMatchFinder.h"
 
 #include "platform/database/dialect/Names.h"
-#include "platform/database/dialect/Renderer.h"
+#include "platform/database/engines/sqlite/Renderer.h"
 
-namespace quartela::dialect {
+namespace quartela::sqlite {
 namespace {
 
 using bound::Node;
 using bound::Op;
 using bound::Select;
-using bound::Statement;
 
 // One row of one column of one table, in that column's order, under one condition.
-bool hasTheShape(const Statement& statement, const Select& select) {
+bool hasTheShape(const bound::Statement& statement, const Select& select) {
   if (select.top != 1 || select.distinct || select.grouped || select.outputs.size() != 1 ||
       select.from.size() != 1 || select.where.size() != 1 || select.orderBy.size() != 1) {
     return false;
@@ -26,7 +25,8 @@ bool hasTheShape(const Statement& statement, const Select& select) {
 }
 
 // The letters in front of a closing %, when the pattern has no other sign; null otherwise.
-std::optional<std::string> prefixOf(const Statement& statement, const Node& like, Index column) {
+std::optional<std::string> prefixOf(const bound::Statement& statement, const Node& like,
+                                    Index column) {
   if (like.op != Op::Like || like.negated ||
       !bound::sameExpression(statement, statement.operand(like, 0), column)) {
     return std::nullopt;
@@ -40,13 +40,13 @@ std::optional<std::string> prefixOf(const Statement& statement, const Node& like
     return std::nullopt;
   }
   std::string prefix;
-  appendUtf8(prefix, letters, 0, pattern.quote);
+  dialect::appendUtf8(prefix, letters, 0, pattern.quote);
   return prefix;
 }
 
 }  // namespace
 
-std::optional<LeastMatch> findLeastMatch(const Statement& statement) {
+std::optional<LeastMatch> findLeastMatch(const bound::Statement& statement) {
   const Select& select = *statement.select;
   if (!hasTheShape(statement, select)) {
     return std::nullopt;
@@ -64,4 +64,4 @@ std::optional<LeastMatch> findLeastMatch(const Statement& statement) {
                     .sql = Renderer(statement).renderExact(column)};
 }
 
-}  // namespace quartela::dialect
+}  // namespace quartela::sqlite

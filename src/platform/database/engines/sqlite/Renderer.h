@@ -11,8 +11,13 @@
 #include <vector>
 
 #include "platform/database/dialect/Bound.h"
+#include "platform/database/engines/sqlite/Translation.h"
 
-namespace quartela::dialect {
+namespace quartela::sqlite {
+
+namespace bound = dialect::bound;
+using dialect::Index;
+using dialect::kNone;
 
 class Renderer {
  public:
@@ -81,4 +86,4 @@ class Renderer {
   int open_;  // entries of the engine's parser stack that what is being written takes
 };
 
-}  // namespace quartela::dialect
+}  // namespace quartela::sqlite
