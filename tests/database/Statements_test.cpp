@@ -159,6 +159,8 @@ class StatementsTest : public QObject {
   void initTestCase();
   void selects_data();
   void selects();
+  void rowsComeInOneOrder_data();
+  void rowsComeInOneOrder();
   void everyIndexServes();
   void deletes_data();
   void deletes();
@@ -247,6 +249,27 @@ void StatementsTest::checkRows(const QList<QStringList>& found, const QList<QStr
   std::sort(left.begin(), left.end());
   std::sort(right.begin(), right.end());
   QCOMPARE(left, right);
+}
+
+void StatementsTest::rowsComeInOneOrder_data() {
+  selects_data();
+}
+
+// Whatever way the engine takes to the rows, they come alike: here it goes through its tables from
+// either end.
+void StatementsTest::rowsComeInOneOrder() {
+  QFETCH(const int, place);
+  sqlite3* const handle = test::sqliteSession(connection_).handle();
+  const auto read = [&](const char* direction) {
+    sqlite3_exec(handle, direction, nullptr, nullptr, nullptr);
+    Recordset records;
+    records.open(selects_[place].statement, connection_, CursorType::Static, LockType::Optimistic);
+    return rowsOf(records);
+  };
+  const QList<QStringList> forwards = read("PRAGMA reverse_unordered_selects = OFF");
+  const QList<QStringList> backwards = read("PRAGMA reverse_unordered_selects = ON");
+  sqlite3_exec(handle, "PRAGMA reverse_unordered_selects = OFF", nullptr, nullptr, nullptr);
+  QCOMPARE(backwards, forwards);
 }
 
 // An index that no statement and no relation looks up costs every write and gives nothing.

@@ -4,6 +4,7 @@
 
 #include "platform/database/Connection.h"
 #include "platform/database/RecordsetData.h"
+#include "platform/database/dialect/CompleteOrder.h"
 #include "platform/values/Convert.h"
 #include "platform/values/RuntimeError.h"
 
@@ -51,6 +52,7 @@ void Recordset::open(const QString& source, Connection& connection, CursorType, 
   if (statement.kind() != dialect::StatementKind::Select) {
     throw RuntimeError(ErrorNumber::InvalidStatement);
   }
+  dialect::completeOrder(statement.bound);
   auto data = std::make_unique<Data>(engine, std::move(statement.result), lock);
   const bool toAddTo = lock == LockType::Pessimistic && isTableName(source, engine.catalogue());
   if (!toAddTo) {

@@ -25,8 +25,9 @@ class Recordset {
   Recordset& operator=(Recordset&&) noexcept;
 
   // `source` is a SELECT, "SELECT @@IDENTITY", or the bare name of a table or stored query. The
-  // first row becomes current. A source that is no SELECT is error 3065; open twice is error 3705.
-  // With LockType::Pessimistic a bare table name reads no rows: it is opened to add to.
+  // first row becomes current. What the source leaves without an order comes by its keys. A source
+  // that is no SELECT is error 3065; open twice is error 3705. With LockType::Pessimistic a bare
+  // table name reads no rows: it is opened to add to.
   void open(const QString& source, Connection& connection, CursorType cursor = CursorType::Static,
             LockType lock = LockType::ReadOnly);
   // Gives up a row begun and not updated. Closing twice is no error.

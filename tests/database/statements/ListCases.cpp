@@ -128,7 +128,8 @@ void addChooser(StatementCases& cases) {
       .statement = kChooser +
                    "WHERE (((Adiantamento.RETIRADA) Is Not Null) AND "
                    "((Adiantamento.FECHAMENTO) Is Null));",
-      .expected = kChooserPlain + "AND a.RETIRADA IS NOT NULL AND a.FECHAMENTO IS NULL"};
+      .expected = kChooserPlain + "AND a.RETIRADA IS NOT NULL AND a.FECHAMENTO IS NULL",
+      .order = {{0}}};
   for (const char* name : {"joão", "D''ávila", "es"}) {
     cases << StatementCase{.name = "chooser 2: open by name",
                            .statement = kChooser + "WHERE (((Tomador.NOME1) Like '%" + name +

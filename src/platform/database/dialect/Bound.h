@@ -101,6 +101,7 @@ struct Output {
 struct Order {
   Index node = kNone;
   bool descending = false;
+  bool implied = false;  // not said by the statement, see completeOrder()
 };
 
 struct Select {

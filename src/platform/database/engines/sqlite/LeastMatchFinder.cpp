@@ -10,10 +10,15 @@ using bound::Node;
 using bound::Op;
 using bound::Select;
 
+bool hasOneOwnTerm(const Select& select) {
+  return !select.orderBy.empty() && !select.orderBy.front().implied &&
+         (select.orderBy.size() == 1 || select.orderBy[1].implied);
+}
+
 // One row of one column of one table, in that column's order, under one condition.
 bool hasTheShape(const bound::Statement& statement, const Select& select) {
   if (select.top != 1 || select.distinct || select.grouped || select.outputs.size() != 1 ||
-      select.from.size() != 1 || select.where.size() != 1 || select.orderBy.size() != 1) {
+      select.from.size() != 1 || select.where.size() != 1 || !hasOneOwnTerm(select)) {
     return false;
   }
   const bound::Join& from = select.from.front();
