@@ -7,13 +7,13 @@
 #include <QTemporaryDir>
 #include <string>
 
+#include "benchmarks/EngineText.h"
 #include "benchmarks/Measure.h"
 #include "database/Builder.h"
 #include "demonstration/DataMaker.h"
 #include "foundation/Abertura.h"
 #include "foundation/Banco.h"
 #include "foundation/Caminhos.h"
-#include "platform/database/engines/sqlite/Translation.h"
 #include "platform/dialogs/Dialogs.h"
 #include "records/cRequisicao.h"
 
@@ -158,8 +158,7 @@ QString benchmarkDatabase() {
 void benchRecordset() {
   openConnection(benchmarkDatabase());
   PlainEngine engine(benchmarkDatabase());
-  const std::string sql =
-      sqlite::translate(dialect::analyse(kAllProcesses, Conexao->catalogue())).sql;
+  const std::string sql = engineText(kAllProcesses, Conexao->catalogue());
   sqlite3_stmt* statement = engine.prepare(sql);
   const auto [ours, peer] = medians(
       9, [] { loadAndRead(); }, [&] { copyEachCell(statement); });
@@ -192,7 +191,7 @@ void benchDialect() {
       "ORDER BY Adiantamento.ABERTURA, Requisicao.SEQ;");
   const Catalogue& catalogue = Conexao->catalogue();
   print({.measure = QStringLiteral("the longest statement to engine text"),
-         .ours = median(2'001, [&] { sqlite::translate(dialect::analyse(longest, catalogue)); }),
+         .ours = median(2'001, [&] { engineText(longest, catalogue); }),
          .target = 40,
          .unit = QStringLiteral("us")});
   Fecha_banco();

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <vector>
 
+#include "benchmarks/EngineText.h"
 #include "benchmarks/Measure.h"
 #include "benchmarks/Toolkit.h"
 #include "foundation/Abertura.h"
@@ -15,7 +16,6 @@
 #include "foundation/Caminhos.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/OpenForms.h"
-#include "platform/database/engines/sqlite/Translation.h"
 #include "platform/values/Clock.h"
 #include "records/Principal.h"
 #include "records/cTodos.h"
@@ -39,8 +39,7 @@ const QString kStatements[] = {
 // The engine's text with the clock's moment in its place and without what only our connection
 // knows.
 QString plainText(const QString& statement) {
-  QString sql = QString::fromStdString(
-      sqlite::translate(dialect::analyse(statement, Conexao->catalogue())).sql);
+  QString sql = QString::fromStdString(engineText(statement, Conexao->catalogue()));
   sql.replace(QStringLiteral("?1"), '\'' + Clock::now().toIso() + '\'');
   return sql.remove(QStringLiteral(" COLLATE LATIN_NOCASE"));
 }

@@ -16,6 +16,7 @@
 #include <QTreeView>
 #include <memory>
 
+#include "benchmarks/EngineText.h"
 #include "benchmarks/Measure.h"
 #include "benchmarks/Toolkit.h"
 #include "demonstration/DataMaker.h"
@@ -24,7 +25,6 @@
 #include "foundation/Caminhos.h"
 #include "foundation/Rotinas.h"
 #include "platform/controls/ListView.h"
-#include "platform/database/engines/sqlite/Translation.h"
 #include "platform/values/Clock.h"
 #include "platform/values/Convert.h"
 #include "records/Principal.h"
@@ -192,10 +192,9 @@ void benchNotes(std::int32_t empenho) {
     list.addColumn(QString::number(column), ColumnWidth::pixels(150));
   }
   const QString sql = QString::fromStdString(
-      sqlite::translate(dialect::analyse("Select * from PrestContas Where PROCESSO = " +
-                                             QString::number(empenho) + " Order by DATA, SEQ;",
-                                         Conexao->catalogue()))
-          .sql);
+      engineText("Select * from PrestContas Where PROCESSO = " + QString::number(empenho) +
+                     " Order by DATA, SEQ;",
+                 Conexao->catalogue()));
   cPrestContas& notes = cPrestContas::compartilhada();
   notes.processo = empenho;
   const auto [ours, peer] = medians(
