@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QEvent>
 #include <QFile>
@@ -11,10 +12,14 @@
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QShortcutEvent>
 #include <QStringList>
+#include <QToolButton>
 
 #include "foundation/Estilo.h"
 #include "foundation/Lugar.h"
@@ -46,6 +51,47 @@ bool tecla_sem_comando(const QObject* objeto, const QEvent& evento) {
   const auto& tecla = static_cast<const QKeyEvent&>(evento);
   return tecla.modifiers() == Qt::AltModifier && !tecla.text().isEmpty() &&
          tecla.text().at(0).isPrint();
+}
+
+// The button that Enter is pressed on: it is the one meant, whatever the window's own Enter does.
+QAbstractButton* botao_do_enter(QObject* objeto, const QEvent& evento) {
+  const bool botao = qobject_cast<QPushButton*>(objeto) || qobject_cast<QToolButton*>(objeto);
+  if (!botao || evento.type() != QEvent::KeyPress) {
+    return nullptr;
+  }
+  const auto& tecla = static_cast<const QKeyEvent&>(evento);
+  const bool enter = tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter;
+  const bool simples = (tecla.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  return enter && simples ? static_cast<QAbstractButton*>(objeto) : nullptr;
+}
+
+bool tem_texto(QClipboard::Mode modo) {
+  const QMimeData* const dados = QGuiApplication::clipboard()->mimeData(modo);
+  return dados != nullptr && dados->hasText() && !dados->text().isEmpty();
+}
+
+// The middle button and Ctrl+Shift+Insert paste what is selected elsewhere.
+bool pede_selecao(const QEvent& evento) {
+  if (evento.type() == QEvent::MouseButtonRelease) {
+    return static_cast<const QMouseEvent&>(evento).button() == Qt::MiddleButton;
+  }
+  if (evento.type() != QEvent::KeyPress) {
+    return false;
+  }
+  const auto& tecla = static_cast<const QKeyEvent&>(evento);
+  return tecla.key() == Qt::Key_Insert &&
+         tecla.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+}
+
+// While nothing is selected anywhere, a memo of the toolkit would follow a selection that is not
+// there.
+bool cola_selecao_vazia(const QObject* objeto, const QEvent& evento) {
+  if (!pede_selecao(evento)) {
+    return false;
+  }
+  const bool memo = qobject_cast<const QPlainTextEdit*>(objeto) ||
+                    qobject_cast<const QPlainTextEdit*>(objeto->parent());
+  return memo && !tem_texto(QClipboard::Selection);
 }
 
 // The button whose key was pressed; null when several have it.
@@ -108,6 +154,16 @@ bool Aplicacao::eventFilter(QObject* objeto, QEvent* evento) {
   cuida_da_janela(objeto, *evento);
   if (gira_sem_foco(objeto, *evento) || tecla_sem_comando(objeto, *evento)) {
     evento->ignore();
+    return true;
+  }
+  if (cola_selecao_vazia(objeto, *evento)) {
+    return true;
+  }
+  if (QAbstractButton* const botao = botao_do_enter(objeto, *evento)) {
+    // A key that is held down presses once.
+    if (!static_cast<QKeyEvent*>(evento)->isAutoRepeat()) {
+      botao->click();
+    }
     return true;
   }
   if (QAbstractButton* const botao = botao_da_tecla(objeto, *evento)) {

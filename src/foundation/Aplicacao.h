@@ -26,7 +26,8 @@ class Aplicacao : public QApplication {
   // scrolls the page over a field that does not have the focus; it does not change it. A button's
   // key presses it at once, where the toolkit waits a tenth of a second in which what is typed on
   // would be lost, and takes the focus as the mouse does, so that the field that is being typed
-  // into is finished first; the key of a button that is not enabled types no letter.
+  // into is finished first; the key of a button that is not enabled types no letter. Enter on a
+  // button presses that button. A memo pastes nothing from an empty selection.
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:

@@ -103,11 +103,6 @@ void frmCadastro::prepara_tela() {
         static_cast<QWidget*>(ui_->lblachou_1)}) {
     reserva_lugar(*campo);
   }
-  // Enter presses the button that has the focus, and none else.
-  const QList<QPushButton*> botoes = findChildren<QPushButton*>();
-  for (QPushButton* const botao : botoes) {
-    botao->setAutoDefault(true);
-  }
 }
 
 void frmCadastro::prepara_listas() {

@@ -1,6 +1,8 @@
 #include "foundation/Aplicacao.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QIcon>
 #include <QLineEdit>
@@ -10,6 +12,7 @@
 #include <QSpinBox>
 #include <QStyle>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <stdexcept>
@@ -231,6 +234,65 @@ class Aplicacao_test : public QObject {
     QTest::keyClicks(&date, "21");
     QTest::keyClick(&date, Qt::Key_G, Qt::AltModifier);
     QCOMPARE(events, QStringList({"finished", "clicked"}));
+  }
+
+  void enterPressesTheButtonWithTheFocus_data() {
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+  }
+  void enterPressesTheButtonWithTheFocus() {
+    QFETCH(int, key);
+    QDialog window;
+    QVBoxLayout layout(&window);
+    QPushButton ok("OK");
+    QPushButton cancel("Cancelar");
+    QToolButton search;
+    QLineEdit line;
+    for (QWidget* widget : QList<QWidget*>{&line, &ok, &cancel, &search}) {
+      layout.addWidget(widget);
+    }
+    ok.setDefault(true);
+    cancel.setAutoDefault(false);
+    search.setFocusPolicy(Qt::StrongFocus);
+    QString pressed;
+    connect(&ok, &QPushButton::clicked, &window, [&] { pressed += "ok "; });
+    connect(&cancel, &QPushButton::clicked, &window, [&] { pressed += "cancel "; });
+    connect(&search, &QToolButton::clicked, &window, [&] { pressed += "search "; });
+    window.show();
+    window.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &window);
+    for (QWidget* widget : QList<QWidget*>{&cancel, &search, &ok, &line}) {
+      widget->setFocus();
+      QTest::keyClick(widget, static_cast<Qt::Key>(key));
+    }
+    QCOMPARE(pressed, QString("cancel search ok ok "));
+    QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, "\r", true);
+    QApplication::sendEvent(&cancel, &held);
+    QCOMPARE(pressed, QString("cancel search ok ok "));
+  }
+
+  void aMemoPastesNothingFromAnEmptySelection() {
+    QPlainTextEdit memo;
+    memo.setPlainText("texto");
+    memo.show();
+    memo.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &memo);
+    QClipboard& clipboard = *QApplication::clipboard();
+    const bool selection = clipboard.supportsSelection();
+    for (const QString& selected : {QString(), QString("novo ")}) {
+      if (selection) {
+        selected.isEmpty() ? clipboard.clear(QClipboard::Selection)
+                           : clipboard.setText(selected, QClipboard::Selection);
+      }
+      memo.setPlainText("texto");
+      QTest::mouseClick(memo.viewport(), Qt::MiddleButton, {}, QPoint(2, 8));
+      QCOMPARE(memo.toPlainText(), selection ? selected + "texto" : QString("texto"));
+      memo.setPlainText("texto");
+      QTest::keyClick(&memo, Qt::Key_Insert, Qt::ControlModifier | Qt::ShiftModifier);
+      const QString clean = memo.toPlainText();
+      QVERIFY2(clean == "texto" || (selection && clean == selected + "texto"), qPrintable(clean));
+    }
   }
 
   void theKeyOfADisabledButtonTypesNothing() {
