@@ -4,6 +4,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStringList>
 #include <QTimer>
 #include <QToolTip>
 #include <algorithm>
@@ -12,13 +13,17 @@
 
 #include "foundation/Fechamento.h"
 #include "platform/controls/DatePicker.h"
+#include "platform/controls/MaskedBox.h"
 #include "platform/controls/MoneyEdit.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/values/Clock.h"
 #include "platform/values/Convert.h"
+#include "platform/values/Format.h"
 
 namespace quartela {
 namespace {
 
+constexpr int kDigitosAno = 2;
 constexpr QRgb kTintaInativa = 0xFF55606D;
 const DateTime kPrimeiraData = DateTime::of(1997, 1, 1);
 const DateTime kUltimaData = DateTime::of(2100, 12, 31);
@@ -72,6 +77,34 @@ void Enter_avanca(QLineEdit& campo) {
     QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
     QCoreApplication::sendEvent(&campo, &tab);
     return true;
+  });
+}
+
+// The number is right in its group and the year behind it. Digits typed in a row that leave the
+// year with one of its two are a number without its leading zero.
+void Completa_ao_sair(MaskedBox& campo) {
+  const auto completa = [&campo] {
+    const QStringList grupos = campo.text().remove(MaskedBox::kPrompt).split(QLatin1Char('/'));
+    if (grupos.size() != 2 || grupos.at(0).isEmpty() || campo.isComplete()) {
+      return;
+    }
+    const auto lugares = campo.text().indexOf(QLatin1Char('/'));
+    const bool corrido = grupos.at(0).size() == lugares;
+    QString digitos = grupos.join(QString());
+    if (grupos.at(1).isEmpty()) {
+      digitos += Format(Clock::today(), u"yy");
+    } else if (!corrido) {
+      digitos = grupos.at(0) + grupos.at(1).rightJustified(kDigitosAno, QLatin1Char('0'));
+    }
+    campo.setText(digitos.rightJustified(lugares + kDigitosAno, QLatin1Char('0')));
+  };
+  new Vigia(campo, [&campo, completa](QEvent& evento) {
+    const bool sai = evento.type() == QEvent::FocusOut &&
+                     static_cast<QFocusEvent&>(evento).reason() != Qt::PopupFocusReason;
+    if (sai && !campo.isReadOnly()) {
+      completa();
+    }
+    return false;
   });
 }
 

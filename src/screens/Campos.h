@@ -14,6 +14,7 @@ class QWidget;
 namespace quartela {
 
 class DatePicker;
+class MaskedBox;
 class MoneyEdit;
 
 // Selects the whole text whenever the field gets the focus, also by the mouse.
@@ -21,6 +22,11 @@ void Seleciona_ao_entrar(QLineEdit& campo);
 
 // Enter goes on to the next field, as the Tab key does.
 void Enter_avanca(QLineEdit& campo);
+
+// Completes a number and its year ("#####/##") when the field is left with fewer digits than its
+// template has, where the operator sees it: zeros in front of the number, the year of the day where
+// none is typed. "1102" becomes 01102/14 in 2014. An empty field stays empty.
+void Completa_ao_sair(MaskedBox& campo);
 
 // The wheel scrolls the page; it changes no value, not even of a field with the focus.
 void Ignora_roda(QWidget& campo);

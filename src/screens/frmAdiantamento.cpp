@@ -97,6 +97,7 @@ frmAdiantamento::~frmAdiantamento() {
 
 void frmAdiantamento::liga_eventos() {
   Seleciona_ao_entrar(*ui_->mskempenho);
+  Completa_ao_sair(*ui_->mskempenho);
   Filtra_digitos(*ui_->mskOP);
   // The picture that opens its calendar belongs to the field.
   ui_->dtpfechamento->installEventFilter(this);

@@ -8,6 +8,7 @@
 #include "platform/values/Clock.h"
 #include "platform/values/Format.h"
 #include "records/Impressao.h"
+#include "screens/Campos.h"
 #include "screens/frmProcura.h"
 #include "ui_frmTab3.h"
 
@@ -62,6 +63,7 @@ frmTab3::~frmTab3() {
 }
 
 void frmTab3::liga_eventos() {
+  Completa_ao_sair(*ui_->mskempenho);
   Filtra_data(*ui_->txtmomento);
   connect(ui_->TabStrip1, &QTabWidget::currentChanged, this, &frmTab3::TabStrip1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &frmTab3::Command2_Click);

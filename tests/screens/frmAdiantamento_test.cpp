@@ -70,6 +70,59 @@ class frmAdiantamentoTest : public QObject {
     QCOMPARE(focused(), QString("mskOP"));
   }
 
+  void theNumberIsCompletedOnLeaving_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("number alone") << "1102"
+                                  << "01102/14";
+    QTest::newRow("five digits") << "11021"
+                                 << "11021/14";
+    QTest::newRow("one digit") << "7"
+                               << "00007/14";
+    QTest::newRow("with its year") << "1102/13"
+                                   << "01102/13";
+    QTest::newRow("digits in a row") << "110213"
+                                     << "01102/13";
+    QTest::newRow("year of one digit") << "1102/9"
+                                       << "01102/09";
+    QTest::newRow("whole") << "0110213"
+                           << "01102/13";
+    QTest::newRow("nothing") << ""
+                             << "_____/__";
+    QTest::newRow("year alone") << "/13"
+                                << "_____/13";
+  }
+  void theNumberIsCompletedOnLeaving() {
+    QFETCH(QString, typed);
+    openNew();
+    type("mskempenho", typed);
+    QTest::keyClick(child<QWidget>("mskempenho"), Qt::Key_Tab);
+    QCOMPARE(focused(), QString("mskOP"));
+    QTEST(text("mskempenho"), "shown");
+  }
+
+  void theCompletedNumberIsSaved() {
+    openNew();
+    fill();
+    type("mskempenho", "1102");
+    ScriptedDialogs dialogs;
+    dialogs.expectBox(boxes::askInclusion(), Button::Yes);
+    dialogs.expectBox(boxes::saved());
+    QTest::keyClick(child<QWidget>("mskempenho"), Qt::Key_Return);
+    QVERIFY2(dialogs.satisfied(), dialogs.report());
+    QCOMPARE(desk_->office().ask("SELECT EMPENHO FROM Adiantamento"), QString("110214"));
+  }
+
+  void enterOnCancelSavesNothing() {
+    openNew();
+    fill();
+    auto* const cancel = child<QPushButton>("Command2");
+    cancel->setFocus();
+    QTest::keyClick(cancel, Qt::Key_Return);
+    QTRY_VERIFY(!dialog_ || !dialog_->isVisible());
+    QCOMPARE(desk_->office().ask("SELECT count(*) FROM Adiantamento"), QString("0"));
+  }
+
   void bearsItsCaptions() {
     openNew();
     const QList<QPair<const char*, QString>> captions{{"lblempenho", "Empenho n°"},

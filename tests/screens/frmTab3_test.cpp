@@ -106,6 +106,20 @@ class frmTab3Test : public QObject {
     QVERIFY(button("cmdConcluir")->isDefault());
   }
 
+  void theNumberIsCompletedOnLeaving() {
+    test::typeText(child<QWidget>("mskempenho"), "500");
+    QTest::keyClick(child<QWidget>("mskempenho"), Qt::Key_Return);
+    QCOMPARE(step(), 1);
+    QCOMPARE(child<MaskedBox>("mskempenho")->text(), QString("00500/14"));
+  }
+
+  void enterOnBackGoesBack() {
+    click("cmdAvancar");
+    button("cmdVoltar")->setFocus();
+    QTest::keyClick(button("cmdVoltar"), Qt::Key_Return);
+    QCOMPARE(step(), 0);
+  }
+
   void theDateTakesDigitsAlone() {
     click("cmdAvancar");
     QLineEdit* const date = field("txtmomento");

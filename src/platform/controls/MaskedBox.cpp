@@ -241,7 +241,7 @@ void MaskedBox::type(const QString& characters) {
   const int from = emptySelection(shown);
   const QString emptied = shown;
   const int caret = fill(shown, from, characters);
-  const bool steps = caret != nextSlot(from) && !hasSelectedText();
+  const bool steps = caret != nextSlot(from) && emptied == text();
   if (steps || shown != emptied) {
     show(shown, caret, true);
   }
