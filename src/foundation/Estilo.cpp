@@ -5,12 +5,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
-#include <QProxyStyle>
 #include <QPushButton>
-#include <QStyleFactory>
 #include <QWidget>
 #include <cmath>
 
+#include "foundation/Desenho.h"
 #include "foundation/Escape.h"
 
 // The pictures that are compiled in; a static library's are taken up only when asked for, and that
@@ -22,12 +21,12 @@ static void traz_imagens() {
 namespace quartela::Estilo {
 namespace {
 
-const QString kEstilo = QStringLiteral("Fusion");
 constexpr int kTwipsPorPolegada = 1440;
 constexpr QRgb kBorda = 0xFFC3CCD6;
 // The style draws a button lighter than its colour; this one leaves white words well readable.
 constexpr QRgb kBotaoPrincipal = 0xFF10406F;
 constexpr QRgb kApagado = 0xFF8592A0;
+constexpr QRgb kCampoInativo = 0xFFE6EAEF;
 
 // Yes stands before No and OK before Cancel on every desktop, and words stand alone on buttons.
 constexpr const char* kFolha = R"(
@@ -47,14 +46,12 @@ QToolTip { background: #ffffff; color: #1d2a38; border: 1px solid #c3ccd6; paddi
 )";
 
 // The character of hidden text can be set by nothing but a style.
-class Asteriscos : public QProxyStyle {
+class Asteriscos : public Desenho {
  public:
-  Asteriscos() : QProxyStyle(kEstilo) {}
   int styleHint(StyleHint dica, const QStyleOption* opcao, const QWidget* campo,
                 QStyleHintReturn* resposta) const override {
-    return dica == SH_LineEdit_PasswordCharacter
-               ? int{'*'}
-               : QProxyStyle::styleHint(dica, opcao, campo, resposta);
+    return dica == SH_LineEdit_PasswordCharacter ? int{'*'}
+                                                 : Desenho::styleHint(dica, opcao, campo, resposta);
   }
 };
 
@@ -79,13 +76,14 @@ QPalette paleta() {
        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     cores.setColor(QPalette::Disabled, papel, QColor(kApagado));
   }
+  cores.setColor(QPalette::Disabled, QPalette::Base, QColor(kCampoInativo));
   return cores;
 }
 
 }  // namespace
 
 void aplica(QApplication& aplicacao) {
-  QApplication::setStyle(QStyleFactory::create(kEstilo));
+  QApplication::setStyle(new Desenho);
   QApplication::setPalette(paleta());
   QFont fonte(QStringList{QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")});
   fonte.setPointSize(9);

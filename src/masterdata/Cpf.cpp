@@ -43,8 +43,7 @@ bool Cpf_confere(QStringView texto) {
 void Avisa_cpf(MaskedBox& campo, QLabel& aviso) {
   const auto confere = [&campo, &aviso] {
     const bool errado = campo.isComplete() && !Cpf_confere(campo.text());
-    aviso.setText(errado ? QStringLiteral("* Confira: os dígitos não fecham")
-                         : QStringLiteral("*"));
+    aviso.setText(errado ? QStringLiteral("Confira: os dígitos não fecham") : QString());
     campo.setAccessibleDescription(errado ? QStringLiteral("Os dígitos verificadores não fecham")
                                           : QString());
   };

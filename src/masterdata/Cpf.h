@@ -15,7 +15,7 @@ class MaskedBox;
 // of one digit repeated, or of another length, does not fit.
 bool Cpf_confere(QStringView texto);
 
-// Shows beside the field, without stopping anyone, that a filled number's check digits do not fit.
+// Says on `aviso`, beside the field, that a filled number's check digits do not fit; stops nobody.
 void Avisa_cpf(MaskedBox& campo, QLabel& aviso);
 
 }  // namespace quartela

@@ -39,7 +39,7 @@ frmExecutor::frmExecutor(QWidget* parent)
              registro.Ordem = chave;
              registro.Del_executor();
            }});
-  Avisa_cpf(*ui_->txtcpf, *ui_->marca_txtcpf);
+  Avisa_cpf(*ui_->txtcpf, *ui_->aviso_txtcpf);
   tela_->carrega();
 }
 

@@ -32,7 +32,7 @@ frmTomador::frmTomador(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
              registro.Ordem = chave;
              registro.Del_Tomador();
            }});
-  Avisa_cpf(*ui_->txtcpf, *ui_->marca_txtcpf);
+  Avisa_cpf(*ui_->txtcpf, *ui_->aviso_txtcpf);
   tela_->carrega();
 }
 
