@@ -1,5 +1,6 @@
 #include "platform/reporting/Document.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "platform/reporting/TextFit.h"
@@ -15,6 +16,10 @@ QStringList linesOf(const QString& fitted) {
   return text.isEmpty() ? QStringList() : text.split(kLineEnd);
 }
 
+// A report has one look for its rows, and a few more for those with smaller types; what has another
+// in each row gains nothing by it.
+constexpr std::size_t kMostLooks = 64;
+
 bool named(const ItemStyle& style, QStringView element) {
   return element.compare(style.element, Qt::CaseInsensitive) == 0;
 }
@@ -25,8 +30,12 @@ QSize Page::size() const {
   return document_->paper_;
 }
 
-std::span<const StoredItem> Page::stored() const {
-  return document_->pages_[static_cast<std::size_t>(index_)];
+std::vector<StoredItem> Page::stored() const {
+  std::vector<StoredItem> items;
+  for (const StoredItem& item : document_->pages_[static_cast<std::size_t>(index_)]) {
+    document_->addItems(item, items);
+  }
+  return items;
 }
 
 // Page numbers and totals are not stored: a total is known only when every page is there.
@@ -52,7 +61,7 @@ PlacedItem Page::placed(const StoredItem& item) const {
   placed.section = style.section;
   placed.rect = item.rect();
   placed.align = style.align;
-  if (style.kind == ItemKind::Text || style.kind == ItemKind::BarCode) {
+  if (hasText(style.kind)) {
     const QString fitted = fittedText(item);
     placed.text = readable(fitted);
     placed.lines = linesOf(fitted);
@@ -138,6 +147,77 @@ std::uint32_t Document::addText(std::uint16_t style, const QString& text) {
     last = {text, texts_.add(text), true};
   }
   return last.place;
+}
+
+int Document::rowLook(const RowLook& look) {
+  if (lastLook_ >= 0 && rowLooks_[static_cast<std::size_t>(lastLook_)] == look) {
+    return lastLook_;
+  }
+  const auto known = std::find(rowLooks_.begin(), rowLooks_.end(), look);
+  if (known != rowLooks_.end()) {
+    return static_cast<int>(known - rowLooks_.begin());
+  }
+  if (rowLooks_.size() >= kMostLooks) {
+    return -1;
+  }
+  ItemStyle style;
+  style.kind = ItemKind::Row;
+  style.row = static_cast<int>(rowLooks_.size());
+  rowLooks_.push_back(look);
+  rowStyles_.push_back(addStyle(style));
+  return style.row;
+}
+
+bool Document::addRow(const RowLook& look, const std::vector<const QString*>& texts,
+                      StoredItem& row) {
+  std::vector<TextStore::RowText> stored;
+  std::vector<std::uint16_t> styles;
+  std::size_t bytes = 0;
+  for (const StoredItem& item : look) {
+    if (hasText(styles_[item.style].kind)) {
+      const QString& text = *texts[stored.size()];
+      const LastText& last = lastTexts_[item.style];
+      const bool same = last.known && last.text == text;
+      stored.push_back({text.toUtf8(), same ? last.place : TextStore::kNone});
+      bytes += static_cast<std::size_t>(stored.back().bytes.size());
+      styles.push_back(item.style);
+    }
+  }
+  if (bytes > TextStore::kLongestRow) {
+    return false;
+  }
+  const int found = rowLook(look);
+  if (found < 0) {
+    return false;
+  }
+  lastLook_ = found;
+  row.style = rowStyles_[static_cast<std::size_t>(found)];
+  const std::vector<std::uint32_t> places = texts_.addRow(stored);
+  row.text = places.empty() ? 0 : places.front();
+  for (std::size_t at = 0; at < places.size(); ++at) {
+    if (stored[at].same == TextStore::kNone) {
+      lastTexts_[styles[at]] = {*texts[at], places[at], true};
+    }
+  }
+  return true;
+}
+
+void Document::addItems(const StoredItem& item, std::vector<StoredItem>& items) const {
+  const ItemStyle& itemStyle = style(item.style);
+  if (itemStyle.kind != ItemKind::Row) {
+    items.push_back(item);
+    return;
+  }
+  std::uint32_t text = item.text;
+  for (StoredItem part : rowLooks_[static_cast<std::size_t>(itemStyle.row)]) {
+    part.left = static_cast<std::int16_t>(part.left + item.left);
+    part.top = static_cast<std::int16_t>(part.top + item.top);
+    if (hasText(style(part.style).kind)) {
+      part.text = text;
+      text = texts_.next(text);
+    }
+    items.push_back(part);
+  }
 }
 
 void Document::addPage(const std::vector<StoredItem>& items) {

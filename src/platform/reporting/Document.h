@@ -14,7 +14,6 @@
 #include <QStringList>
 #include <QStringView>
 #include <cstdint>
-#include <span>
 #include <vector>
 
 #include "platform/reporting/Face.h"
@@ -24,7 +23,11 @@
 
 namespace quartela::reporting {
 
-enum class ItemKind : std::uint8_t { Text, Line, Area, Picture, BarCode };
+enum class ItemKind : std::uint8_t { Text, Line, Area, Picture, BarCode, Row };
+
+inline bool hasText(ItemKind kind) {
+  return kind == ItemKind::Text || kind == ItemKind::BarCode;
+}
 
 // What all the items of one element have in common.
 struct ItemStyle {
@@ -41,6 +44,7 @@ struct ItemStyle {
   LineStyle lineStyle = LineStyle::Solid;
   int lineWeight = 0;
   int picture = -1;
+  int row = -1;
 };
 
 // An item as the document keeps it: sixteen bytes.
@@ -53,7 +57,12 @@ struct StoredItem {
   std::uint32_t text = 0;  // its place in the store
 
   QRect rect() const { return {left, top, width, height}; }
+  friend bool operator==(const StoredItem&, const StoredItem&) = default;
 };
+
+// The items of a table row with its rules, placed from the row's own place. Rows that look alike
+// share one; only their texts, which stand together in the store, are their own.
+using RowLook = std::vector<StoredItem>;
 
 // An item spelt out, for whoever looks into a page.
 struct PlacedItem {
@@ -84,7 +93,7 @@ class Page {
 
   // For the painter.
   const Document& document() const { return *document_; }
-  std::span<const StoredItem> stored() const;
+  std::vector<StoredItem> stored() const;
   QString fittedText(const StoredItem& item) const;
 
  private:
@@ -123,11 +132,17 @@ class Document {
   std::uint16_t addStyle(const ItemStyle& style);
   int addPicture(const QString& file);
   std::uint32_t addText(std::uint16_t style, const QString& text);
+  // One item for a row, at the place that its look is counted from; `texts` are those of the look's
+  // items that have one, in order. False, and nothing added, when there are too many looks or the
+  // texts are too long to stand together.
+  bool addRow(const RowLook& look, const std::vector<const QString*>& texts, StoredItem& row);
   void addPage(const std::vector<StoredItem>& items);
   void complete() { complete_ = true; }
 
  private:
   friend class Page;
+  int rowLook(const RowLook& look);
+  void addItems(const StoredItem& item, std::vector<StoredItem>& items) const;
 
   // The text that an item of a style had last; headings are the same on every page.
   struct LastText {
@@ -143,6 +158,9 @@ class Document {
   std::vector<ItemStyle> styles_;
   std::vector<LastText> lastTexts_;
   std::vector<Picture> pictures_;
+  std::vector<RowLook> rowLooks_;
+  std::vector<std::uint16_t> rowStyles_;  // of the looks
+  int lastLook_ = -1;
   std::vector<std::vector<StoredItem>> pages_;
   TextStore texts_;
 };

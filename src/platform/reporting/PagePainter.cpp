@@ -52,6 +52,8 @@ class PagePainter {
       case ItemKind::BarCode:
         paintBars(item, style);
         break;
+      case ItemKind::Row:
+        break;  // comes as its items
     }
   }
 

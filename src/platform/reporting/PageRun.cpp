@@ -35,8 +35,14 @@ std::int16_t stored(int measure) {
       measure, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max()));
 }
 
-bool hasStoredText(ItemKind kind) {
-  return kind == ItemKind::Text || kind == ItemKind::BarCode;
+StoredItem storedItem(const BlockItem& item, int left, int top) {
+  StoredItem placed;
+  placed.left = stored(item.place.x() + left);
+  placed.top = stored(item.place.y() + top);
+  placed.width = stored(item.place.width());
+  placed.height = stored(item.place.height());
+  placed.style = item.style;
+  return placed;
 }
 
 bool beginsPage(const SectionLayout& section) {
@@ -160,7 +166,7 @@ bool PageRun::putPart(const SectionLayout& section, Block& block) {
     return true;
   }
   if (block.height <= room()) {
-    placeBlock(block, y_);
+    placeSection(section, block);
     y_ += block.height;
     fresh_ = fresh_ && block.height == 0;
     return false;
@@ -170,28 +176,53 @@ bool PageRun::putPart(const SectionLayout& section, Block& block) {
   if (cut <= 0 && !fresh_) {
     changePage();
   } else {
-    putSplit(block, cut > 0 ? cut : room());
+    putSplit(section, block, cut > 0 ? cut : room());
   }
   return true;
 }
 
-void PageRun::putSplit(Block& block, int cut) {
+void PageRun::putSplit(const SectionLayout& section, Block& block, int cut) {
   Block rest = block.splitAt(cut);
-  placeBlock(block, y_);
+  placeSection(section, block);
   fresh_ = false;
   changePage();
   block = std::move(rest);
 }
 
+void PageRun::placeSection(const SectionLayout& section, const Block& block) {
+  if (section.kind != SectionKind::Detail || !placeRow(block, y_)) {
+    placeBlock(block, y_);
+  }
+}
+
+// Most of a long report is rows that look alike: a row with its rules is one item.
+bool PageRun::placeRow(const Block& block, int top) {
+  if (block.items.size() < 2) {
+    return false;
+  }
+  RowLook look;
+  std::vector<const QString*> texts;
+  look.reserve(block.items.size());
+  for (const BlockItem& item : block.items) {
+    look.push_back(storedItem(item, 0, 0));
+    if (hasText(item.kind)) {
+      texts.push_back(&item.text.text);
+    }
+  }
+  StoredItem row;
+  row.left = stored(parts_.layout.margins.left());
+  row.top = stored(top);
+  if (!document_.addRow(look, texts, row)) {
+    return false;
+  }
+  items_.push_back(row);
+  return true;
+}
+
 void PageRun::placeBlock(const Block& block, int top) {
   for (const BlockItem& item : block.items) {
-    StoredItem placed;
-    placed.left = stored(item.place.x() + parts_.layout.margins.left());
-    placed.top = stored(item.place.y() + top);
-    placed.width = stored(item.place.width());
-    placed.height = stored(item.place.height());
-    placed.style = item.style;
-    if (hasStoredText(item.kind)) {
+    StoredItem placed = storedItem(item, parts_.layout.margins.left(), top);
+    if (hasText(item.kind)) {
       placed.text = document_.addText(item.style, item.text.text);
     }
     items_.push_back(placed);

@@ -28,8 +28,10 @@ class PageRun : public Placer {
   void closePage();
   void changePage();
   bool putPart(const SectionLayout& section, Block& block);
-  void putSplit(Block& block, int cut);
+  void putSplit(const SectionLayout& section, Block& block, int cut);
   void placeBlock(const Block& block, int top);
+  void placeSection(const SectionLayout& section, const Block& block);
+  bool placeRow(const Block& block, int top);
   int room() const { return bottom_ - y_; }
   int roomOfFreshPage() const;
 

@@ -66,6 +66,8 @@ class DocumentTest : public QObject {
   void keepsTexts();
   void keepsManyTexts();
   void sameTextIsKeptOnce();
+  void aRowIsKeptAsOneItem();
+  void rowsOfManyLooksAreKept();
   void textStandsWhereItIsAligned_data();
   void textStandsWhereItIsAligned();
   void textStaysInItsBox();
@@ -117,6 +119,62 @@ void DocumentTest::sameTextIsKeptOnce() {
   QVERIFY(report.document()->pageCount() >= 100);
   QVERIFY(report.document()->textBytes() < 50);
   QCOMPARE(report.document()->page(99).text(u"a"), QStringLiteral("CABECALHO DA PAGINA"));
+}
+
+namespace {
+
+const char* const kRuledRow = R"({"kind": "Detail", "height": 300, "elements": [
+      {"kind": "Field", "name": "a", "left": 0, "top": 0, "width": 2000, "height": 250,
+       "column": "RAZAO"},
+      {"kind": "Line", "name": "b", "left": 2000, "top": 0, "width": 0, "height": 300},
+      {"kind": "Field", "name": "c", "left": 2100, "top": 0, "width": 2000, "height": 250,
+       "column": "DOCUMENTO"},
+      {"kind": "Line", "name": "d", "left": 0, "top": 300, "width": 5000, "height": 0}]})";
+
+}  // namespace
+
+void DocumentTest::aRowIsKeptAsOneItem() {
+  SampleRows rows(300);
+  Report report(layoutOf(kRuledRow));
+  report.setSource(rows.connection(), SampleRows::all());
+  report.build();
+  const auto document = report.document();
+  // An item of sixteen bytes for each row, and little for each page.
+  QVERIFY2(document->itemBytes() <
+               static_cast<std::size_t>(300 * 16 + 64 * 16 + document->pageCount() * 64),
+           qPrintable(QString::number(document->itemBytes())));
+  const Page page = document->page(1);
+  const int before = static_cast<int>(document->page(0).items(u"a").size());
+  const QList<PlacedItem> items = page.items();
+  QCOMPARE(items.size(), page.items(u"a").size() * 4);
+  QCOMPARE(items[4].element, QStringLiteral("a"));
+  QCOMPARE(items[4].text, QStringLiteral("Fornecedor %1").arg(before + 2));
+  QCOMPARE(items[4].rect, QRect(1000, 1300, 2000, 250));
+  QCOMPARE(items[5].rect, QRect(3000, 1300, 0, 300));
+  QCOMPARE(items[6].text, QStringLiteral("NF %1").arg(before + 2));
+  QCOMPARE(items[6].section, QStringLiteral("Detail"));
+  QCOMPARE(items[7].rect, QRect(1000, 1600, 5000, 0));
+  QVERIFY(items[7].kind == ItemKind::Line);
+}
+
+// Each row has its field at another place.
+void DocumentTest::rowsOfManyLooksAreKept() {
+  SampleRows rows(200);
+  Report report(layoutOf(kRuledRow));
+  report.setSource(rows.connection(), SampleRows::all());
+  report.onFormat(u"Detail", [](SectionInstance& section) {
+    section.element(u"c").setPosition(2100 + section.row(), 0);
+  });
+  report.build();
+  int row = 0;
+  for (const Page& page : report.document()->pages()) {
+    for (const PlacedItem& item : page.items(u"c")) {
+      ++row;
+      QCOMPARE(item.rect.left(), 1000 + 2100 + row);
+      QCOMPARE(item.text, QStringLiteral("NF %1").arg(row));
+    }
+  }
+  QCOMPARE(row, 200);
 }
 
 void DocumentTest::textStandsWhereItIsAligned_data() {
