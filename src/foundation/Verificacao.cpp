@@ -9,7 +9,7 @@
 #include <atomic>
 #include <memory>
 
-#include "platform/database/engines/sqlite/DamageCheck.h"
+#include "platform/database/Damage.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/KeyFile.h"
 #include "platform/values/Clock.h"
@@ -18,8 +18,6 @@
 
 namespace quartela {
 namespace {
-
-using sqlite::CheckDepth;
 
 const QString kDia = QStringLiteral("dia");
 const QString kSemana = QStringLiteral("semana");
@@ -93,7 +91,7 @@ void conclui(const QString& arquivo, CheckDepth alcance, const QStringList& dano
 
 void examina(const QString& arquivo, CheckDepth alcance, const Em_curso& curso) {
   try {
-    const QStringList danos = sqlite::findDamage(arquivo, alcance, curso.cancelada);
+    const QStringList danos = findDamage(arquivo, alcance, curso.cancelada);
     if (!curso.cancelada) {
       QMetaObject::invokeMethod(qApp, [=] { conclui(arquivo, alcance, danos); });
     }

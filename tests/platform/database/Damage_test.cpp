@@ -2,15 +2,13 @@
 #include <QThread>
 #include <atomic>
 
-#include "platform/database/engines/sqlite/DamageCheck.h"
-#include "platform/database/engines/sqlite/Session.h"
+#include "platform/database/Damage.h"
 #include "tests/platform/database/SmallDatabase.h"
+#include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
 using namespace quartela::test;
-using sqlite::CheckDepth;
-using sqlite::findDamage;
 
 namespace {
 
@@ -101,7 +99,7 @@ void Damage::letsOthersSave() {
       "i + 1 FROM n WHERE i < 20000) SELECT hex(zeroblob(200)) FROM n");
   Connection connection;
   database.open(connection);
-  QCOMPARE(sqlite3_busy_timeout(connection.session().handle(), 100), SQLITE_OK);
+  QCOMPARE(sqlite3_busy_timeout(sqliteSession(connection).handle(), 100), SQLITE_OK);
   std::atomic_bool done = false;
   QStringList damage;
   const std::unique_ptr<QThread> checker(QThread::create([&] {
@@ -178,7 +176,7 @@ void Damage::impossibleValuesAreErrors() {
   QCOMPARE(rows.state(), Recordset::Closed);
 }
 
-Q_DECLARE_METATYPE(sqlite::CheckDepth)
+Q_DECLARE_METATYPE(CheckDepth)
 
 QUARTELA_TEST_MAIN(Damage)
 #include "Damage_test.moc"

@@ -1,6 +1,8 @@
 #include <QStringList>
 
+#include "platform/database/Damage.h"
 #include "platform/database/engines/Engine.h"
+#include "platform/database/engines/sqlite/DamageCheck.h"
 #include "platform/database/engines/sqlite/Session.h"
 #include "platform/files/ProgramFolder.h"
 
@@ -24,6 +26,10 @@ QString dataSource(const QString& connectionText) {
 
 std::shared_ptr<Engine> openEngine(const QString& connectionText, const SchemaSteps& steps) {
   return std::make_shared<SqliteSession>(nativePath(dataSource(connectionText)), steps);
+}
+
+QStringList findDamage(const QString& path, CheckDepth depth, const std::atomic_bool& cancelled) {
+  return sqlite::findDamage(path, depth, cancelled);
 }
 
 }  // namespace quartela
