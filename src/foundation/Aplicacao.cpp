@@ -122,6 +122,13 @@ void cuida_da_janela(QObject* objeto, const QEvent& evento) {
   }
 }
 
+RuntimeError com_numero(const std::exception& erro) {
+  const auto* const numerado = dynamic_cast<const RuntimeError*>(&erro);
+  return numerado != nullptr ? *numerado
+                             : RuntimeError::withDescription(ErrorNumber::InvalidProcedureCall,
+                                                             QString::fromUtf8(erro.what()));
+}
+
 }  // namespace
 
 Aplicacao::Aplicacao(int& argc, char** argv) : QApplication(argc, argv) {
@@ -141,11 +148,8 @@ Aplicacao::Aplicacao(int& argc, char** argv) : QApplication(argc, argv) {
 bool Aplicacao::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
-  } catch (const RuntimeError& erro) {
-    mostra_erro_sem_trava(erro);
   } catch (const std::exception& erro) {
-    mostra_erro_sem_trava(RuntimeError::withDescription(ErrorNumber::InvalidProcedureCall,
-                                                        QString::fromUtf8(erro.what())));
+    mostra_erro_sem_trava(erro);
   }
   return true;
 }
@@ -176,10 +180,11 @@ bool Aplicacao::eventFilter(QObject* objeto, QEvent* evento) {
   return QApplication::eventFilter(objeto, evento);
 }
 
-void mostra_erro_sem_trava(const RuntimeError& erro) {
+void mostra_erro_sem_trava(const std::exception& erro) {
   static QStringList fila;
-  const QString texto =
-      QStringLiteral("Erro em tempo de execução %1:\n\n").arg(erro.number()) + erro.description();
+  const RuntimeError numerado = com_numero(erro);
+  const QString texto = QStringLiteral("Erro em tempo de execução %1:\n\n").arg(numerado.number()) +
+                        numerado.description();
   if (fila.contains(texto)) {
     return;
   }

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QTranslator>
 #include <QVersionNumber>
+#include <exception>
 
 #include "platform/values/RuntimeError.h"
 
@@ -35,9 +36,9 @@ class Aplicacao : public QApplication {
 };
 
 // The stop box of an error that no trap took: "Erro em tempo de execução " number ":", an empty
-// line, the description. An error that comes while one is shown waits for it to be closed; the same
-// one once more is not repeated.
-void mostra_erro_sem_trava(const RuntimeError& erro);
+// line, the description; for any error but a RuntimeError the number 5 and its own words. An error
+// that comes while one is shown waits for it to be closed; the same one once more is not repeated.
+void mostra_erro_sem_trava(const std::exception& erro);
 
 // To be called before the application is made: the toolkit then never looks for its plugins in the
 // program's folder, where the data is and whoever may write that could leave one.

@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 
+#include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
 #include "platform/controls/Refusal.h"
 #include "platform/controls/TypedText.h"
@@ -106,8 +107,8 @@ class Filtro : public QObject {
     for (QAction* const comando : comandos) {
       if (comando->text().startsWith(QLineEdit::tr("&Paste"))) {
         comando->disconnect();
-        connect(comando, &QAction::triggered, this,
-                [this] { cola(QApplication::clipboard()->text()); });
+        liga(comando, &QAction::triggered, this,
+             [this] { cola(QApplication::clipboard()->text()); });
       }
     }
     menu->popup(evento.globalPos());

@@ -8,6 +8,7 @@
 #include "foundation/Aplicacao.h"
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/UmaJanela.h"
 #include "foundation/ui_Splash.h"
 #include "platform/controls/ScreenPointer.h"
@@ -48,9 +49,9 @@ Splash::Splash()
   if (const QScreen* const tela = QGuiApplication::primaryScreen()) {
     move(tela->availableGeometry().center() - rect().center());
   }
-  connect(Timer1, &QTimer::timeout, this, &Splash::Timer1_timer);
-  connect(Timer2, &QTimer::timeout, this, &Splash::Timer2_timer);
-  connect(Timer3, &QTimer::timeout, this, &Splash::Timer3_timer);
+  liga(Timer1, &QTimer::timeout, this, &Splash::Timer1_timer);
+  liga(Timer2, &QTimer::timeout, this, &Splash::Timer2_timer);
+  liga(Timer3, &QTimer::timeout, this, &Splash::Timer3_timer);
   Sob_trava(QStringLiteral("Função Load"), [this] { carrega(); });
   Timer1->start();
   Timer2->start();

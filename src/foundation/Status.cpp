@@ -1,5 +1,6 @@
 #include "foundation/Status.h"
 
+#include "foundation/Evento.h"
 #include "foundation/UmaJanela.h"
 #include "foundation/ui_Status.h"
 #include "platform/dialogs/ToolkitDialogs.h"
@@ -25,8 +26,8 @@ Status::Status()
   Timer1->setTimerType(Qt::PreciseTimer);
   Timer2->setObjectName(QStringLiteral("Timer2"));
   Timer2->setInterval(1);
-  connect(Timer1, &QTimer::timeout, this, &Status::Timer1_timer);
-  connect(Timer2, &QTimer::timeout, this, &Status::Timer1_timer);
+  liga(Timer1, &QTimer::timeout, this, &Status::Timer1_timer);
+  liga(Timer2, &QTimer::timeout, this, &Status::Timer1_timer);
 }
 
 Status::~Status() = default;

@@ -1,5 +1,7 @@
 #include "foundation/Tamanho.h"
 
+#include "foundation/Evento.h"
+
 #include <QApplication>
 #include <QLayout>
 #include <QScreen>
@@ -17,7 +19,7 @@ class Rolagem : public QScrollArea {
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
     setSizePolicy(miolo.sizePolicy());
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* agora) {
+    liga(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* agora) {
       if (agora != nullptr && widget() != nullptr && widget()->isAncestorOf(agora)) {
         ensureWidgetVisible(agora);
       }

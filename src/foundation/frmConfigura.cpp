@@ -6,6 +6,7 @@
 #include "foundation/Aplicacao.h"
 #include "foundation/Escape.h"
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Fechamento.h"
 #include "foundation/Ini.h"
 #include "foundation/UmaJanela.h"
@@ -51,7 +52,7 @@ frmConfigura::frmConfigura() : ui_(std::make_unique<Ui::frmConfigura>()) {
   ui_->txtSec->setFocus();
   carrega();
   carregado_ = Conteudo_digitado(*this);
-  connect(ui_->Command1, &QPushButton::clicked, this, &frmConfigura::Command1_click);
+  liga(ui_->Command1, &QPushButton::clicked, this, &frmConfigura::Command1_click);
   Ao_escapar(*this, [this] { escapa(); });
 }
 

@@ -11,6 +11,7 @@
 #include "foundation/Acessos.h"
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Ini.h"
 #include "foundation/UmaJanela.h"
 #include "foundation/frmParametros.h"
@@ -54,10 +55,10 @@ frmLogin::frmLogin() : ui_(std::make_unique<Ui::frmLogin>()) {
   mostra_ultimo_acesso();
   ui_->txtPassword->installEventFilter(this);
   ui_->txtPassword->setFocus();
-  connect(ui_->cmdOk, &QPushButton::clicked, this, &frmLogin::cmdOk_click);
-  connect(ui_->cmdUp, &QPushButton::clicked, this, &frmLogin::cmdUp_click);
-  connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmLogin::cmdCancel_click);
-  connect(ui_->cmdParam, &QPushButton::clicked, this, [] { mostra_frmParametros(); });
+  liga(ui_->cmdOk, &QPushButton::clicked, this, &frmLogin::cmdOk_click);
+  liga(ui_->cmdUp, &QPushButton::clicked, this, &frmLogin::cmdUp_click);
+  liga(ui_->cmdCancel, &QPushButton::clicked, this, &frmLogin::cmdCancel_click);
+  liga(ui_->cmdParam, &QPushButton::clicked, this, [] { mostra_frmParametros(); });
 }
 
 frmLogin::~frmLogin() = default;

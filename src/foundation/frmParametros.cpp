@@ -4,6 +4,7 @@
 
 #include "foundation/Escape.h"
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Ini.h"
 #include "foundation/UmaJanela.h"
 #include "foundation/ui_frmParametros.h"
@@ -43,13 +44,12 @@ frmParametros::frmParametros()
   ui_->Text2->setText(le(QStringLiteral("caminho2")));
   ui_->Text3->setText(le(QStringLiteral("number")));
   carregado_ = Conteudo_digitado(*this);
-  connect(ui_->cmdCaminho, &QPushButton::clicked, this,
-          [this] { procura(*ui_->Text1, kFiltroBanco); });
-  connect(ui_->Command1, &QPushButton::clicked, this,
-          [this] { procura(*ui_->Text2, kFiltroBanco); });
-  connect(ui_->Command2, &QPushButton::clicked, this, [this] { procura(*ui_->Text3, kFiltroIni); });
-  connect(ui_->cmdGravar, &QPushButton::clicked, this, &frmParametros::cmdGravar_click);
-  connect(ui_->cmdCancelar, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
+  liga(ui_->cmdCaminho, &QPushButton::clicked, this,
+       [this] { procura(*ui_->Text1, kFiltroBanco); });
+  liga(ui_->Command1, &QPushButton::clicked, this, [this] { procura(*ui_->Text2, kFiltroBanco); });
+  liga(ui_->Command2, &QPushButton::clicked, this, [this] { procura(*ui_->Text3, kFiltroIni); });
+  liga(ui_->cmdGravar, &QPushButton::clicked, this, &frmParametros::cmdGravar_click);
+  liga(ui_->cmdCancelar, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
   Ao_escapar(*this, [this] { close(); });
 }
 

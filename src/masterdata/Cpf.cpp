@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "foundation/Evento.h"
 #include "platform/controls/MaskedBox.h"
 
 namespace quartela {
@@ -47,7 +48,7 @@ void Avisa_cpf(MaskedBox& campo, QLabel& aviso) {
     campo.setAccessibleDescription(errado ? QStringLiteral("Os dígitos verificadores não fecham")
                                           : QString());
   };
-  QObject::connect(&campo, &QLineEdit::textChanged, &aviso, confere);
+  liga(&campo, &QLineEdit::textChanged, &aviso, confere);
   confere();
 }
 

@@ -22,18 +22,19 @@ ItemCadastro::ItemCadastro(ListView& lista, const QString& texto_excluir,
       exclui_(std::move(exclui)),
       recarrega_(std::move(recarrega)),
       menu_(new QMenu(&lista)) {
-  const auto exclusao = Evento([this] { exclui_item(); });
   menu_->setObjectName(QStringLiteral("mnuopcoes"));
-  menu_->addAction(texto_excluir, this, exclusao)->setObjectName(QStringLiteral("mnuexcluir"));
-  connect(&lista, &ListView::itemClicked, this, &ItemCadastro::clica);
-  connect(&lista, &ListView::contextMenuRequested, this, &ItemCadastro::mostra_menu);
-  connect(&lista, &ListView::itemActivated, this, [this](int linha) {
+  QAction* const mnuexcluir = menu_->addAction(texto_excluir);
+  mnuexcluir->setObjectName(QStringLiteral("mnuexcluir"));
+  liga(mnuexcluir, &QAction::triggered, this, &ItemCadastro::exclui_item);
+  liga(&lista, &ListView::itemClicked, this, &ItemCadastro::clica);
+  liga(&lista, &ListView::contextMenuRequested, this, &ItemCadastro::mostra_menu);
+  liga(&lista, &ListView::itemActivated, this, [this](int linha) {
     clica(linha);
     emit ativado();
   });
-  connect(&lista, &ListView::deleteRequested, this, [this, exclusao](int linha) {
+  liga(&lista, &ListView::deleteRequested, this, [this](int linha) {
     clica(linha);
-    exclusao();
+    exclui_item();
   });
 }
 

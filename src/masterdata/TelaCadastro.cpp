@@ -83,7 +83,7 @@ TelaCadastro::TelaCadastro(QWidget& janela, QWidget& campos, QLineEdit& ordem,
   abas_->addTab(monta_cadastro(campos, aparencia), QStringLiteral("Cadastro"));
   janela.layout()->addWidget(abas_);
   janela.layout()->addWidget(monta_rodape(aparencia));
-  liga();
+  liga_comandos();
 }
 
 QWidget* TelaCadastro::monta_rodape(const AparenciaCadastro& aparencia) {
@@ -155,17 +155,15 @@ QWidget* TelaCadastro::monta_cadastro(QWidget& campos, const AparenciaCadastro& 
   return pagina;
 }
 
-void TelaCadastro::liga() {
-  const auto altera = Evento([this] { comeca_alteracao(); });
-  connect(procura_, &QPushButton::clicked, this, Evento([this] { pesquisa(); }));
-  connect(pesquisa_, &QLineEdit::returnPressed, procura_, &QPushButton::click);
-  connect(item_, &ItemCadastro::ativado, this, altera);
-  connect(incluir_, &QPushButton::clicked, this,
-          Evento([this] { comeca_inclusao(passos_.inclui); }));
-  connect(alterar_, &QPushButton::clicked, this, altera);
-  connect(cancelar_, &QPushButton::clicked, this, &TelaCadastro::cancela);
-  connect(gravar_, &QPushButton::clicked, this, Evento([this] { grava(); }));
-  connect(sair_, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
+void TelaCadastro::liga_comandos() {
+  liga(procura_, &QPushButton::clicked, this, &TelaCadastro::pesquisa);
+  liga(pesquisa_, &QLineEdit::returnPressed, procura_, &QPushButton::click);
+  liga(item_, &ItemCadastro::ativado, this, &TelaCadastro::comeca_alteracao);
+  liga(incluir_, &QPushButton::clicked, this, [this] { comeca_inclusao(passos_.inclui); });
+  liga(alterar_, &QPushButton::clicked, this, &TelaCadastro::comeca_alteracao);
+  liga(cancelar_, &QPushButton::clicked, this, &TelaCadastro::cancela);
+  liga(gravar_, &QPushButton::clicked, this, &TelaCadastro::grava);
+  liga(sair_, &QPushButton::clicked, &fechamento_, &Fechamento::fecha);
   Ao_escapar(janela_, Evento([this] { escapa(); }));
 }
 

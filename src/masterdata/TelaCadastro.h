@@ -103,7 +103,7 @@ class TelaCadastro : public QObject {
   QWidget* monta_lista(QWidget* pagina, const AparenciaCadastro& aparencia);
   QWidget* monta_cadastro(QWidget& campos, const AparenciaCadastro& aparencia);
   QWidget* monta_rodape(const AparenciaCadastro& aparencia);
-  void liga();
+  void liga_comandos();
   void relista(std::int16_t modo);
   void pesquisa();
   void grava();

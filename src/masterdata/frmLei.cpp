@@ -44,7 +44,7 @@ frmLei::frmLei(QWidget* parent)
   Tamanho::rola(*ui_->Frame1);
   ui_->ListView1->setMinimumHeight(kAlturaLista);
   monta_lista();
-  liga();
+  liga_comandos();
   edita(false);
   cInciso::compartilhada().Lista_Inciso(*ui_->ListView1);
   ui_->ListView1->setFocus();
@@ -73,17 +73,17 @@ void frmLei::monta_lista() {
       [&registro, &lista] { registro.Lista_Inciso(lista); });
 }
 
-void frmLei::liga() {
-  connect(ui_->Combo1, &ComboBox::dropDown, this, &frmLei::Combo1_DropDown);
+void frmLei::liga_comandos() {
+  liga(ui_->Combo1, &ComboBox::dropDown, this, &frmLei::Combo1_DropDown);
   connect(ui_->Combo1, &ComboBox::picked, this, &frmLei::Combo1_Click);
-  connect(ui_->Combo1->lineEdit(), &QLineEdit::editingFinished, this, &frmLei::Combo1_LostFocus);
-  connect(ui_->Command1_3, &QPushButton::clicked, this, &frmLei::inclui);
-  connect(ui_->Command1_1, &QPushButton::clicked, this, &frmLei::altera);
-  connect(ui_->Command1_0, &QPushButton::clicked, this, &frmLei::cancela);
-  connect(ui_->Command3, &QPushButton::clicked, this, Evento([this] { grava(); }));
-  connect(ui_->Command2, &QPushButton::clicked, this, &QWidget::close);
+  liga(ui_->Combo1->lineEdit(), &QLineEdit::editingFinished, this, &frmLei::Combo1_LostFocus);
+  liga(ui_->Command1_3, &QPushButton::clicked, this, &frmLei::inclui);
+  liga(ui_->Command1_1, &QPushButton::clicked, this, &frmLei::altera);
+  liga(ui_->Command1_0, &QPushButton::clicked, this, &frmLei::cancela);
+  liga(ui_->Command3, &QPushButton::clicked, this, [this] { grava(); });
+  liga(ui_->Command2, &QPushButton::clicked, this, &QWidget::close);
   // A button that is disabled passes the click by.
-  connect(item_, &ItemCadastro::ativado, ui_->Command1_1, &QPushButton::click);
+  liga(item_, &ItemCadastro::ativado, ui_->Command1_1, &QPushButton::click);
   Ao_escapar(*this, [this] { escapa(); });
 }
 

@@ -24,7 +24,7 @@ class frmLei : public QDialog {
 
  private:
   void monta_lista();
-  void liga();
+  void liga_comandos();
 
   void Combo1_DropDown();
   void Combo1_Click(int indice);

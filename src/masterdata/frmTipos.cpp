@@ -55,7 +55,7 @@ frmTipos::frmTipos(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::
            }});
   QPushButton& clonar =
       tela_->acrescenta_botao({QStringLiteral("Command1_3"), QStringLiteral("C&lonar")});
-  connect(&clonar, &QPushButton::clicked, this, Evento([this] { clona(); }));
+  liga(&clonar, &QPushButton::clicked, this, [this] { clona(); });
   for (ComboBox* lista : {ui_->txttipo, ui_->cmbElemento, ui_->cmbPrazo}) {
     lista->setTypingBlocked(true);
     lista->lineEdit()->setAccessibleName(lista->accessibleName());

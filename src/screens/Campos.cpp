@@ -11,6 +11,7 @@
 #include <functional>
 #include <utility>
 
+#include "foundation/Evento.h"
 #include "foundation/Fechamento.h"
 #include "platform/controls/DatePicker.h"
 #include "platform/controls/MaskedBox.h"
@@ -187,19 +188,16 @@ bool Avisa_valor_recusado(MoneyEdit& campo) {
 void DatasRecusadas::observa(DatePicker& data) {
   data.setMinimum(kPrimeiraData);
   data.setMaximum(kUltimaData);
-  QObject::connect(
-      &data, &DatePicker::typingRefused, &data, [this, &data](const QString& digitado) {
-        if (!recusadas_.contains(&data)) {
-          recusadas_.append(&data);
-        }
-        QToolTip::showText(
-            data.mapToGlobal(data.rect().bottomLeft()),
-            QStringLiteral("%1 não é uma data de 1997 a 2100: voltou o valor anterior.")
-                .arg(digitado),
-            &data);
-      });
-  QObject::connect(&data, &DatePicker::valueChanged, &data,
-                   [this, &data] { recusadas_.removeAll(&data); });
+  liga(&data, &DatePicker::typingRefused, &data, [this, &data](const QString& digitado) {
+    if (!recusadas_.contains(&data)) {
+      recusadas_.append(&data);
+    }
+    QToolTip::showText(
+        data.mapToGlobal(data.rect().bottomLeft()),
+        QStringLiteral("%1 não é uma data de 1997 a 2100: voltou o valor anterior.").arg(digitado),
+        &data);
+  });
+  liga(&data, &DatePicker::valueChanged, &data, [this, &data] { recusadas_.removeAll(&data); });
 }
 
 bool DatasRecusadas::avisa() {

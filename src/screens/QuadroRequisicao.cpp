@@ -3,6 +3,7 @@
 #include <QLineEdit>
 
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
 #include "masterdata/cExecutor.h"
 #include "masterdata/cTomador.h"
@@ -62,16 +63,16 @@ void QuadroRequisicao::liga_listas() {
        {ui_->cmbOrgao, ui_->cmbOrdenador, ui_->cmbResponsavel, ui_->cmbTipo, ui_->cmbficha}) {
     Ignora_roda(*combo);
   }
-  connect(ui_->cmbOrgao, &ComboBox::dropDown, this,
-          [this] { recarrega(*ui_->cmbOrgao, [this] { carrega_orgaos(*ui_->cmbOrgao); }); });
-  connect(ui_->cmbResponsavel, &ComboBox::dropDown, this, [this] {
+  liga(ui_->cmbOrgao, &ComboBox::dropDown, this,
+       [this] { recarrega(*ui_->cmbOrgao, [this] { carrega_orgaos(*ui_->cmbOrgao); }); });
+  liga(ui_->cmbResponsavel, &ComboBox::dropDown, this, [this] {
     recarrega(*ui_->cmbResponsavel, [this] {
       Carrega_Controles(*ui_->cmbResponsavel,
                         QStringLiteral("Select * from Tomador Where ATIVO = True ORDER BY NOME1;"),
                         QStringLiteral("NOME1"), QStringLiteral("ID"), kComando);
     });
   });
-  connect(ui_->cmbficha, &ComboBox::dropDown, this, &QuadroRequisicao::cmbficha_DropDown);
+  liga(ui_->cmbficha, &ComboBox::dropDown, this, &QuadroRequisicao::cmbficha_DropDown);
   connect(ui_->cmbOrgao, &ComboBox::picked, this, &QuadroRequisicao::cmbOrgao_Click);
   connect(ui_->cmbOrdenador, &ComboBox::picked, this, &QuadroRequisicao::cmbOrdenador_Click);
   connect(ui_->cmbResponsavel, &ComboBox::picked, this, &QuadroRequisicao::cmbResponsavel_Click);

@@ -105,15 +105,11 @@ void frmAdiantamento::liga_eventos() {
   for (QToolButton* const figura : figuras) {
     figura->installEventFilter(this);
   }
-  connect(ui_->dtpretirada, &DatePicker::valueChanged, this,
-          Evento(this, &frmAdiantamento::dtpretirada_Change));
-  connect(ui_->MonthView1, &QCalendarWidget::clicked, this,
-          Evento(this, &frmAdiantamento::MonthView1_DateClick));
-  connect(ui_->MonthView1, &QCalendarWidget::activated, this,
-          Evento(this, &frmAdiantamento::MonthView1_DateClick));
-  connect(ui_->Command1, &QPushButton::clicked, this,
-          Evento(this, &frmAdiantamento::Command1_Click));
-  connect(ui_->Command2, &QPushButton::clicked, this, [this] { done(Rejected); });
+  liga(ui_->dtpretirada, &DatePicker::valueChanged, this, &frmAdiantamento::dtpretirada_Change);
+  liga(ui_->MonthView1, &QCalendarWidget::clicked, this, &frmAdiantamento::MonthView1_DateClick);
+  liga(ui_->MonthView1, &QCalendarWidget::activated, this, &frmAdiantamento::MonthView1_DateClick);
+  liga(ui_->Command1, &QPushButton::clicked, this, &frmAdiantamento::Command1_Click);
+  liga(ui_->Command2, &QPushButton::clicked, this, [this] { done(Rejected); });
 }
 
 void frmAdiantamento::Form_Load() {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QStyle>
 
+#include "foundation/Evento.h"
 #include "platform/controls/OpenForms.h"
 #include "records/cTodos.h"
 #include "ui_frmAviso.h"
@@ -30,11 +31,11 @@ frmAviso::frmAviso(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::
   prepara_colunas(*ui_->lvList);
   ui_->Command1->setFocus();
   Timer1.setInterval(kFechaSozinho);
-  connect(&Timer1, &QTimer::timeout, this, [this] {
+  liga(&Timer1, &QTimer::timeout, this, [this] {
     Timer1.stop();
     close();
   });
-  connect(ui_->Command1, &QPushButton::clicked, this, &frmAviso::close);
+  liga(ui_->Command1, &QPushButton::clicked, this, &frmAviso::close);
   Form_Load();
   OpenForms::add(this);
 }

@@ -111,15 +111,12 @@ void frmCadastro::prepara_listas() {
 }
 
 void frmCadastro::liga_janela() {
-  connect(ui_->SSTab1, &QTabWidget::currentChanged, this, &frmCadastro::SSTab1_Click);
-  connect(ui_->cmdPrestacao, &QPushButton::clicked, this,
-          Evento(this, &frmCadastro::cmdPrestacao_Click));
-  connect(ui_->cmdOk, &QPushButton::clicked, this, Evento(this, &frmCadastro::cmdOk_Click));
-  connect(ui_->cmdAplicar, &QPushButton::clicked, this,
-          Evento(this, &frmCadastro::cmdAplicar_Click));
-  connect(ui_->cmdImprimir, &QPushButton::clicked, this,
-          Evento(this, &frmCadastro::cmdImprimir_Click));
-  connect(Command1[kSair], &QPushButton::clicked, this, Evento([this] { close(); }));
+  liga(ui_->SSTab1, &QTabWidget::currentChanged, this, &frmCadastro::SSTab1_Click);
+  liga(ui_->cmdPrestacao, &QPushButton::clicked, this, &frmCadastro::cmdPrestacao_Click);
+  liga(ui_->cmdOk, &QPushButton::clicked, this, &frmCadastro::cmdOk_Click);
+  liga(ui_->cmdAplicar, &QPushButton::clicked, this, &frmCadastro::cmdAplicar_Click);
+  liga(ui_->cmdImprimir, &QPushButton::clicked, this, &frmCadastro::cmdImprimir_Click);
+  liga(Command1[kSair], &QPushButton::clicked, this, [this] { close(); });
   Ao_escapar(*this, Evento([this] { close(); }));
 }
 
@@ -127,41 +124,37 @@ void frmCadastro::liga_empenho() {
   ListView* const lista = ui_->lstEmpenho;
   lista->installEventFilter(this);
   lista->viewport()->installEventFilter(this);
-  connect(lista, &ListView::itemClicked, this, [this, lista](int linha) {
+  liga(lista, &ListView::itemClicked, this, [this, lista](int linha) {
     Tag = lista->text(linha);
     copia_chave();
   });
-  connect(lista, &ListView::itemActivated, this, Evento(this, &frmCadastro::cmdalterar_Click));
-  connect(lista, &ListView::columnClicked, this, [lista](int n) { Ordena_lista(*lista, n); });
-  connect(ui_->cmdnovo, &QPushButton::clicked, this, Evento(this, &frmCadastro::cmdnovo_Click));
-  connect(ui_->cmdalterar, &QPushButton::clicked, this,
-          Evento(this, &frmCadastro::cmdalterar_Click));
-  connect(ui_->cmdexcluir, &QPushButton::clicked, this,
-          Evento(this, &frmCadastro::cmdexcluir_Click));
-  connect(ui_->cmdEncerrar, &QPushButton::clicked, this,
-          Evento(this, &frmCadastro::cmdEncerrar_Click));
+  liga(lista, &ListView::itemActivated, this, &frmCadastro::cmdalterar_Click);
+  liga(lista, &ListView::columnClicked, this, [lista](int n) { Ordena_lista(*lista, n); });
+  liga(ui_->cmdnovo, &QPushButton::clicked, this, &frmCadastro::cmdnovo_Click);
+  liga(ui_->cmdalterar, &QPushButton::clicked, this, &frmCadastro::cmdalterar_Click);
+  liga(ui_->cmdexcluir, &QPushButton::clicked, this, &frmCadastro::cmdexcluir_Click);
+  liga(ui_->cmdEncerrar, &QPushButton::clicked, this, &frmCadastro::cmdEncerrar_Click);
 }
 
 void frmCadastro::liga_notas() {
-  connect(Command1[kAlterar], &QPushButton::clicked, this, Evento(this, &frmCadastro::Alterar));
-  connect(Command1[kGravar], &QPushButton::clicked, this, Evento(this, &frmCadastro::Gravar));
-  connect(Command1[kIncluir], &QPushButton::clicked, this, Evento(this, &frmCadastro::Incluir));
-  connect(Command1[kImprimirPrestacao], &QPushButton::clicked, this,
-          Evento(this, &frmCadastro::imprime_prestacao));
-  connect(Command1[kExportar], &QPushButton::clicked, this, Evento(this, &frmCadastro::Exporta));
-  connect(Command1[kCancelar], &QPushButton::clicked, this, Evento(this, &frmCadastro::Cancelar));
+  liga(Command1[kAlterar], &QPushButton::clicked, this, &frmCadastro::Alterar);
+  liga(Command1[kGravar], &QPushButton::clicked, this, &frmCadastro::Gravar);
+  liga(Command1[kIncluir], &QPushButton::clicked, this, &frmCadastro::Incluir);
+  liga(Command1[kImprimirPrestacao], &QPushButton::clicked, this, &frmCadastro::imprime_prestacao);
+  liga(Command1[kExportar], &QPushButton::clicked, this, &frmCadastro::Exporta);
+  liga(Command1[kCancelar], &QPushButton::clicked, this, &frmCadastro::Cancelar);
   ListView* const lista = ui_->lstNotas;
-  connect(lista, &ListView::itemClicked, this,
-          [this, lista](int linha) { ui_->txtseq->setText(lista->text(linha)); });
-  connect(lista, &ListView::columnClicked, this, [lista](int n) { Ordena_lista(*lista, n); });
-  connect(lista, &ListView::deleteRequested, this, Evento(this, &frmCadastro::mnExcluir_Click));
+  liga(lista, &ListView::itemClicked, this,
+       [this, lista](int linha) { ui_->txtseq->setText(lista->text(linha)); });
+  liga(lista, &ListView::columnClicked, this, [lista](int n) { Ordena_lista(*lista, n); });
+  liga(lista, &ListView::deleteRequested, this, &frmCadastro::mnExcluir_Click);
   auto* const mnOpcoes = new QMenu(this);
   mnOpcoes->setObjectName(QStringLiteral("mnOpcoes"));
   QAction* const mnExcluir = mnOpcoes->addAction(QStringLiteral("&Excluir item selecionado"));
   mnExcluir->setObjectName(QStringLiteral("mnExcluir"));
-  connect(mnExcluir, &QAction::triggered, this, Evento(this, &frmCadastro::mnExcluir_Click));
-  connect(lista, &ListView::contextMenuRequested, this,
-          [mnOpcoes](int, const QPoint& lugar) { mnOpcoes->popup(lugar); });
+  liga(mnExcluir, &QAction::triggered, this, &frmCadastro::mnExcluir_Click);
+  liga(lista, &ListView::contextMenuRequested, this,
+       [mnOpcoes](int, const QPoint& lugar) { mnOpcoes->popup(lugar); });
 }
 
 void frmCadastro::liga_digitacao() {
@@ -173,15 +166,14 @@ void frmCadastro::liga_digitacao() {
   Filtra_data(*ui_->txtdatanota);
   typeUpperCase(*ui_->txtrazao_social);
   ui_->txtrazao_social->installEventFilter(this);
-  connect(ui_->txtordem, &QLineEdit::textChanged, this, &frmCadastro::txtordem_Change);
-  connect(ui_->txtordem, &QLineEdit::editingFinished, this, [this] {
+  liga(ui_->txtordem, &QLineEdit::textChanged, this, &frmCadastro::txtordem_Change);
+  liga(ui_->txtordem, &QLineEdit::editingFinished, this, [this] {
     const QString proprio = Nome_proprio(ui_->txtordem->text());
     if (proprio != ui_->txtordem->text()) {
       ui_->txtordem->setText(proprio);
     }
   });
-  connect(ui_->txtrazao_social, &QLineEdit::textChanged, this,
-          &frmCadastro::txtrazao_social_Change);
+  liga(ui_->txtrazao_social, &QLineEdit::textChanged, this, &frmCadastro::txtrazao_social_Change);
 }
 
 void frmCadastro::Form_Load() {

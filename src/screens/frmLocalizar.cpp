@@ -53,7 +53,7 @@ frmLocalizar::frmLocalizar(QWidget* parent)
   Estilo::destaca(*ui_->Command1);
   ui_->Combo1->setCurrentIndex(kNome);
   ui_->Text1->setFocus();
-  connect(ui_->Command1, &QPushButton::clicked, this, Evento(this, &frmLocalizar::Command1_Click));
+  liga(ui_->Command1, &QPushButton::clicked, this, &frmLocalizar::Command1_Click);
 }
 
 frmLocalizar::~frmLocalizar() = default;

@@ -3,6 +3,7 @@
 #include <QMap>
 #include <utility>
 
+#include "foundation/Evento.h"
 #include "foundation/UmaJanela.h"
 #include "platform/controls/UpperCase.h"
 #include "records/cTodos.h"
@@ -54,14 +55,14 @@ frmProcura::frmProcura(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
   ui_->Command3->setIcon(QIcon(QStringLiteral(":/quartela/screens/icons/search.svg")));
   cTodos::prepara_procura(*ui_->ListView1);
   typeUpperCase(*ui_->txtprocura);
-  connect(ui_->Command3, &QAbstractButton::clicked, this, &frmProcura::Command3_Click);
-  connect(ui_->ListView1, &ListView::itemClicked, this, &frmProcura::escolhe);
-  connect(ui_->ListView1, &ListView::itemActivated, this, [this](int linha) {
+  liga(ui_->Command3, &QAbstractButton::clicked, this, &frmProcura::Command3_Click);
+  liga(ui_->ListView1, &ListView::itemClicked, this, &frmProcura::escolhe);
+  liga(ui_->ListView1, &ListView::itemActivated, this, [this](int linha) {
     escolhe(linha);
     Command1_Click();
   });
-  connect(ui_->Command1, &QPushButton::clicked, this, &frmProcura::Command1_Click);
-  connect(ui_->Command2, &QPushButton::clicked, this, &frmProcura::close);
+  liga(ui_->Command1, &QPushButton::clicked, this, &frmProcura::Command1_Click);
+  liga(ui_->Command2, &QPushButton::clicked, this, &frmProcura::close);
   atende_modo();
 }
 

@@ -21,12 +21,10 @@ frmReqAvulso::frmReqAvulso(QWidget* parent)
   Tamanho::rola(*ui_->fracadastro);
   Estilo::destaca(*ui_->cmdAplicar);
   ui_->fracadastro->prepara_numero(QStringLiteral("Código"), {});
-  connect(ui_->cmdAplicar, &QPushButton::clicked, this,
-          Evento(this, &frmReqAvulso::cmdAplicar_Click));
-  connect(ui_->cmdImprimir, &QPushButton::clicked, this,
-          Evento(this, &frmReqAvulso::cmdImprimir_Click));
-  connect(ui_->cmdOk, &QPushButton::clicked, this, [this] { close(); });
-  connect(ui_->Command1_0, &QPushButton::clicked, this, [this] { close(); });
+  liga(ui_->cmdAplicar, &QPushButton::clicked, this, &frmReqAvulso::cmdAplicar_Click);
+  liga(ui_->cmdImprimir, &QPushButton::clicked, this, &frmReqAvulso::cmdImprimir_Click);
+  liga(ui_->cmdOk, &QPushButton::clicked, this, [this] { close(); });
+  liga(ui_->Command1_0, &QPushButton::clicked, this, [this] { close(); });
   Ao_escapar(*this, [this] { close(); });
   Form_Load();
 }

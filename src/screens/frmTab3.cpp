@@ -4,6 +4,7 @@
 
 #include "foundation/Erros.h"
 #include "foundation/Estilo.h"
+#include "foundation/Evento.h"
 #include "foundation/Rotinas.h"
 #include "platform/values/Clock.h"
 #include "platform/values/Format.h"
@@ -65,14 +66,14 @@ frmTab3::~frmTab3() {
 void frmTab3::liga_eventos() {
   Completa_ao_sair(*ui_->mskempenho);
   Filtra_data(*ui_->txtmomento);
-  connect(ui_->TabStrip1, &QTabWidget::currentChanged, this, &frmTab3::TabStrip1_Click);
-  connect(ui_->Command2, &QPushButton::clicked, this, &frmTab3::Command2_Click);
-  connect(ui_->cmdVoltar, &QPushButton::clicked, this,
-          [this] { mostra_aba(ui_->TabStrip1->currentIndex() - 1); });
-  connect(ui_->cmdAvancar, &QPushButton::clicked, this,
-          [this] { mostra_aba(ui_->TabStrip1->currentIndex() + 1); });
-  connect(ui_->cmdConcluir, &QPushButton::clicked, this, &frmTab3::cmdConcluir_Click);
-  connect(ui_->Command1, &QPushButton::clicked, this, &QDialog::close);
+  liga(ui_->TabStrip1, &QTabWidget::currentChanged, this, &frmTab3::TabStrip1_Click);
+  liga(ui_->Command2, &QPushButton::clicked, this, &frmTab3::Command2_Click);
+  liga(ui_->cmdVoltar, &QPushButton::clicked, this,
+       [this] { mostra_aba(ui_->TabStrip1->currentIndex() - 1); });
+  liga(ui_->cmdAvancar, &QPushButton::clicked, this,
+       [this] { mostra_aba(ui_->TabStrip1->currentIndex() + 1); });
+  liga(ui_->cmdConcluir, &QPushButton::clicked, this, &frmTab3::cmdConcluir_Click);
+  liga(ui_->Command1, &QPushButton::clicked, this, &QDialog::close);
 }
 
 void frmTab3::changeEvent(QEvent* evento) {

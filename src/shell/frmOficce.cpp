@@ -151,24 +151,24 @@ void frmOficce::prepara_filtro() {
 }
 
 void frmOficce::liga_eventos() {
-  connect(ribbon_, &FaixaRibbon::ButtonClick, this,
-          Evento([this](const QString& id) { Ribbon_ButtonClick(id); }));
-  connect(lista_, &ListView::itemClicked, this, &frmOficce::escolhe);
-  connect(lista_, &ListView::itemActivated, this,
-          Evento([this](int linha) { na_linha(linha, QStringLiteral("1")); }));
-  connect(lista_, &ListView::columnClicked, this,
-          [this](int coluna) { Ordena_lista(*lista_, coluna); });
-  connect(lista_, &ListView::deleteRequested, this,
-          Evento([this](int linha) { na_linha(linha, QStringLiteral("2")); }));
-  connect(lista_, &ListView::contextMenuRequested, this, &frmOficce::mostra_menu);
-  connect(&Timer1, &QTimer::timeout, this, &frmOficce::Timer1_Timer);
+  liga(ribbon_, &FaixaRibbon::ButtonClick, this,
+       [this](const QString& id) { Ribbon_ButtonClick(id); });
+  liga(lista_, &ListView::itemClicked, this, &frmOficce::escolhe);
+  liga(lista_, &ListView::itemActivated, this,
+       [this](int linha) { na_linha(linha, QStringLiteral("1")); });
+  liga(lista_, &ListView::columnClicked, this,
+       [this](int coluna) { Ordena_lista(*lista_, coluna); });
+  liga(lista_, &ListView::deleteRequested, this,
+       [this](int linha) { na_linha(linha, QStringLiteral("2")); });
+  liga(lista_, &ListView::contextMenuRequested, this, &frmOficce::mostra_menu);
+  liga(&Timer1, &QTimer::timeout, this, &frmOficce::Timer1_Timer);
 }
 
 void frmOficce::liga_atalhos() {
   for (const Comando& c : comandos()) {
     if (c.atalho != nullptr) {
       auto* const atalho = new QShortcut(QKeySequence(QLatin1String(c.atalho)), this);
-      connect(atalho, &QShortcut::activated, this, Evento([this, &c] { executa(c, *this); }));
+      liga(atalho, &QShortcut::activated, this, [this, &c] { executa(c, *this); });
     }
   }
 }
@@ -263,9 +263,8 @@ void frmOficce::mostra_menu(int linha, const QPoint& posicao) {
       menu.addSeparator();
     }
     da_linha = c.da_linha;
-    menu.addAction(linha_do_menu(c), this, Evento([this, &c, linha] {
-                     c.da_linha ? na_linha(linha, texto(c.chave)) : executa(c, *this);
-                   }));
+    liga(menu.addAction(linha_do_menu(c)), &QAction::triggered, this,
+         [this, &c, linha] { c.da_linha ? na_linha(linha, texto(c.chave)) : executa(c, *this); });
   }
   menu.exec(posicao);
 }
