@@ -14,6 +14,7 @@
 #include "foundation/frmParametros.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/values/RuntimeError.h"
+#include "tests/support/FirstDelivery.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/office/Office.h"
@@ -136,19 +137,15 @@ class BancoTest : public QObject {
   // As the first delivery left it: the program goes on with the file and keeps a copy of what it
   // was.
   void aFileOfAnOlderProgramIsBroughtForward() {
-    office_->run(
-        "UPDATE Consultas SET TEXTO = 'SELECT Viagem.ITEM FROM Viagem;' WHERE NOME = "
-        "'Sel_Viagem'");
-    office_->run("DROP TABLE IdentificaTransp");
-    office_->run(
-        "CREATE TABLE IdentificaTransp (ITEM INTEGER PRIMARY KEY AUTOINCREMENT, PLANILHA, "
-        "PROCESSO, DATA, DESTINO, LOCALIDADE, VEÍCULO, PLACA, HSAIDA, HCHEGADA, MOTORISTA, "
-        "ACOMPANHANTE, OBS, MOTIVO)");
-    office_->run("PRAGMA user_version = 1");
+    const QString banco = office_->file(QStringLiteral("Banco.mdb"));
+    QVERIFY(QFile::remove(banco));
+    test::makeFirstDelivery(banco);
     Abre_conexao();
-    Tabela.open(QStringLiteral("Sel_Viagem"), *Conexao);
-    QVERIFY(Tabela.fieldCount() > 1);
     Fecha_banco();
+    QCOMPARE(
+        office_->ask("SELECT TEXTO LIKE '%ORDER BY Requisicao.SEQ%' FROM Consultas WHERE NOME = "
+                     "'Sel_Req_left'"),
+        QStringLiteral("1"));
     QVERIFY(QFile::exists(office_->file(QStringLiteral("Banco.mdb.versao-1"))));
   }
 
