@@ -49,9 +49,16 @@ class AdvanceTroublesTest : public QObject {
     road_->desk.office().run(
         "INSERT INTO Requisicao(SEQ, DATA, ORGAO, TOMADOR, VALOR, FINALIDADE, JUSTIFICATIVA, FICHA)"
         " VALUES (32814, '2014-10-01 00:00:00', 1, 1, 5, 1, 'Outra', '1')");
-    changesNothing('A',
-                   {{boxes::askInclusion(), Button::Yes},
-                    {boxes::saveFailure(ErrorNumber::DuplicateKey, test::kAnything), Button::Ok}});
+    const QString typed = road_->shown();
+    road_->keys.answer(
+        'A', {{boxes::askInclusion(), Button::Yes},
+              {boxes::saveFailure(ErrorNumber::DuplicateKey, test::kAnything), Button::Ok}});
+    QCOMPARE(road_->shown(), QString(typed).replace("0328/14", "0329/14"));
+    road_->keys.answer('A', {{boxes::askInclusion(), Button::Yes}, {boxes::saved(), Button::Ok}});
+    QCOMPARE(road_->desk.office().ask("SELECT JUSTIFICATIVA FROM Requisicao WHERE SEQ = 32814"),
+             QString("Outra"));
+    QCOMPARE(road_->desk.office().ask("SELECT count(*) FROM Requisicao WHERE SEQ = 32914"),
+             QString("1"));
   }
 
   // The list still shows the row. What comes up is the process loaded before, whole and under its

@@ -48,7 +48,7 @@ class MainWindowJourney : public QObject {
     QTRY_VERIFY_WITH_TIMEOUT(main() != nullptr, 10'000);
     dismissAlert();
     walkFilters(office);
-    findByNumber(QStringLiteral("0001/14"));
+    findByNumber(QStringLiteral("0201/14"));
     findByName(office);
     sortByAmount();
     deleteFirst(office);
