@@ -110,10 +110,14 @@ class Display:
         self.wait(self._manager_answers, "the window manager")
 
     def _manager_answers(self):
-        """A window that is mapped while the manager takes over may stay unmapped for ever: what the root names
-        as the manager's window must name itself."""
+        """A window that is mapped while the manager takes over may stay unmapped for ever. What the root names
+        as the manager's window names itself early, with cold caches seconds before that is over; only a
+        manager that is at work grants a request."""
         window = numbers(self.name, "_NET_SUPPORTING_WM_CHECK")
-        return window and numbers(self.name, "_NET_SUPPORTING_WM_CHECK", window[0]) == window
+        if not window or numbers(self.name, "_NET_SUPPORTING_WM_CHECK", window[0]) != window:
+            return False
+        self.xdotool("set_num_desktops", 1)
+        return numbers(self.name, "_NET_NUMBER_OF_DESKTOPS") == [1]
 
     def _keep(self, started):
         self.started.append(started)

@@ -47,6 +47,7 @@ class Desktop(unittest.TestCase):
         folder, path = instead_of("openbox", "sleep 2\nexec openbox")
         with folder, path, Display() as display:
             self.assertTrue(numbers(display.name, "_NET_SUPPORTED"))
+            self.assertEqual([1], numbers(display.name, "_NET_NUMBER_OF_DESKTOPS"))  # as it was asked for
 
     def test_a_manager_that_fails_is_told_with_its_words(self):
         self.assertIn("no configuration", self.refusal("openbox", "echo no configuration >&2; exit 1"))
