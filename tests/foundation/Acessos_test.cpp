@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QTemporaryFile>
 
+#include "foundation/Abertura.h"
 #include "foundation/Banco.h"
 #include "foundation/Estilo.h"
 #include "foundation/Splash.h"

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QStandardPaths>
 
+#include "foundation/Abertura.h"
 #include "foundation/Banco.h"
 #include "platform/values/Clock.h"
 #include "tests/support/ScriptedDialogs.h"
