@@ -103,7 +103,11 @@ class Play:
         self.step("Main window: the processes begun and not closed")
 
 
+    def processes(self):
+        return set(rows(self.database, "SELECT SEQ FROM Requisicao", shared=True))
+
     def type_requisition(self):
+        known = self.processes()
         self.display.focus("Quartela 2014")
         self.keys("F10", "Down", "Return")
         self.display.focus("Cadastro de Requisição")
@@ -122,8 +126,7 @@ class Play:
         self.step("Question: nothing is saved without it")
         self.answer("Aviso")
         self.answer("Aviso")
-        self.number = self.ask("SELECT max(SEQ) FROM Requisicao WHERE SEQ % 100 = "
-                               f"{datetime.date.today().year % 100}")
+        self.number = (self.processes() - known).pop()
         self.display.focus("Cadastro de Requisição")
         self.keys("alt+i")
         self.answer("Aviso")

@@ -231,7 +231,7 @@ class frmLogin_test : public QObject {
     ScriptedDialogs dialogs;
     dialogs.expectBox(
         {"Houve um erro interno:\n\nNúmero do erro:\n75" + test::kAnything + "Função cmdOk_click",
-         "", BoxIcon::Exclamation});
+         "Aviso", BoxIcon::Exclamation});
     {
       const test::NoMoreFiles none;
       enter("");
