@@ -200,9 +200,10 @@ class arPrestacaoTest : public QObject {
     office_->run(("INSERT INTO Produtos(ITEM, REQUISITANTE, LOCAL, JUSTIFICATIVA, PRODUTO1, QUANT1,"
                   "PRODUTO2, PRODUTO10, QUANT10) VALUES (1, 'João', '" +
                   QByteArray(35, 'W') + "', '" +
-                  QByteArray("Manutenção corretiva da frota ").repeated(7).left(200) + "', '" +
-                  product + "', '1234', 'uma' || char(10) || 'duas' || char(10) || 'três', '" +
-                  product + "', '1')")
+                  QStringLiteral("Manutenção corretiva da frota ").repeated(7).left(200).toUtf8() +
+                  "', '" + product +
+                  "', '1234', 'uma' || char(10) || 'duas' || char(10) || 'três', '" + product +
+                  "', '1')")
                      .constData());
     const Page page = pageOf(arPrestacao(statement(1)));
     QCOMPARE(test::cutTexts(page), QString());
