@@ -28,13 +28,15 @@ install_missing_packages() {
     fail "These packages could not be installed: ${missing[*]}"
 }
 
+# build_preset PRESET [TARGET...]: builds those targets, or everything.
 build_preset() {
   local preset=$1
+  shift
   say "Building ($preset)"
   cmake --preset "$preset" >"build-$preset.log" 2>&1 ||
     { cat "build-$preset.log"; fail "cmake --preset $preset failed (above)."; }
   mkdir -p "build/$preset" && mv "build-$preset.log" "build/$preset/configure.log"
-  cmake --build --preset "$preset" || fail "The build ($preset) failed (above)."
+  cmake --build --preset "$preset" ${1:+--target "$@"} || fail "The build ($preset) failed (above)."
   [ "$preset" != release ] || packaging/hardening.py "build/$preset/bin/quartela" --fortify ||
     fail "The program was built without its protections (above)."
 }
