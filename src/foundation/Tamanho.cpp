@@ -1,14 +1,17 @@
 #include "foundation/Tamanho.h"
 
-#include "foundation/Evento.h"
-
 #include <QApplication>
 #include <QLayout>
 #include <QScreen>
 #include <QScrollArea>
+#include <algorithm>
+
+#include "foundation/Evento.h"
 
 namespace quartela::Tamanho {
 namespace {
+
+constexpr int kMargensDosLados = 60;
 
 // Asks for as much room as its contents do, where the toolkit's own asks for a part of it.
 class Rolagem : public QScrollArea {
@@ -31,9 +34,11 @@ class Rolagem : public QScrollArea {
                                : widget()->sizeHint().expandedTo(widget()->minimumSize());
   }
 
-  // What it can be smaller by than its contents need.
-  QSize escondido() const {
-    return widget()->minimumSizeHint().expandedTo(widget()->minimumSize()) - minimumSizeHint();
+  // What it can be lower by than its contents need.
+  int altura_escondida() const {
+    const int inteira =
+        std::max(widget()->minimumSizeHint().height(), widget()->minimumSize().height());
+    return inteira - minimumSizeHint().height();
   }
 
  protected:
@@ -60,11 +65,16 @@ QSize maximo(const QWidget& janela) {
   return janela.screen()->availableSize() - kMoldura;
 }
 
+// What stands above and below the contents adds to their height; beside them stand margins only, as
+// the rows above and below are narrower or tell their width in the window's own.
 void mostra_inteira(QWidget& janela) {
   QSize precisa = janela.size();
   for (const QScrollArea* const area : janela.findChildren<QScrollArea*>()) {
     if (const auto* const rolagem = dynamic_cast<const Rolagem*>(area)) {
-      precisa = precisa.expandedTo(janela.minimumSizeHint() + rolagem->escondido());
+      const QSize minima = janela.minimumSizeHint();
+      const int largura = rolagem->widget()->minimumSizeHint().width() + kMargensDosLados;
+      precisa = precisa.expandedTo(
+          {std::max(minima.width(), largura), minima.height() + rolagem->altura_escondida()});
     }
   }
   if (precisa != janela.size()) {
