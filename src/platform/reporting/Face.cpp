@@ -55,6 +55,41 @@ Face::Face(const FontSpec& style)
         static_cast<float>(metrics_.horizontalAdvance(QChar(static_cast<char16_t>(code))));
   }
   cutSign_ = metrics_.horizontalAdvance(kCutSign);
+  if (!style.underline) {
+    numberGlyphs();
+  }
+}
+
+// Signs that are no letters of their own (controls, the soft hyphen) are left to drawing.
+void Face::numberGlyphs() {
+  rawFont_ = QRawFont::fromFont(font_);
+  for (std::size_t code = 0; code < glyph_.size(); ++code) {
+    const QChar letter(static_cast<char16_t>(code));
+    if (letter.isPrint() && letter != QChar::SoftHyphen) {
+      const QList<quint32> numbers = rawFont_.glyphIndexesForString(QString(letter));
+      glyph_[code] = numbers.size() == 1 ? numbers.front() : 0;
+    }
+  }
+}
+
+bool Face::hasGlyphs(QStringView text) const {
+  QChar before;
+  for (const QChar letter : text) {
+    if (letter.unicode() >= kTable || glyph_[letter.unicode()] == 0 ||
+        joinsLetters(before, letter)) {
+      return false;
+    }
+    before = letter;
+  }
+  return true;
+}
+
+void Face::addGlyphs(QStringView text, QPointF at, Glyphs& glyphs) const {
+  for (const QChar letter : text) {
+    glyphs.numbers.append(glyph_[letter.unicode()]);
+    glyphs.places.append(at);
+    at.rx() += static_cast<double>(advance_[letter.unicode()]);
+  }
 }
 
 double Face::width(QStringView text) const {

@@ -7,6 +7,9 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QList>
+#include <QPointF>
+#include <QRawFont>
 #include <QStringView>
 #include <array>
 
@@ -29,18 +32,33 @@ class Face {
   double base() const { return base_; }
   double width(QStringView text) const;
 
+  // The letters as the font numbers them, each at its place; `at` is the first one's.
+  struct Glyphs {
+    QList<quint32> numbers;
+    QList<QPointF> places;
+  };
+  // Whether the text's letters are known one by one. If not, only drawing it tells: letters beyond
+  // the table or that the font lacks, joined or underlined ones.
+  bool hasGlyphs(QStringView text) const;
+  // Adds the letters of such a text as they stand when it is drawn.
+  void addGlyphs(QStringView text, QPointF at, Glyphs& glyphs) const;
+  const QRawFont& rawFont() const { return rawFont_; }
+
  private:
   // Latin letters, their accents and the common signs have a table; the rest is measured as a
   // whole.
   static constexpr std::size_t kTable = 0x180;
 
   explicit Face(const FontSpec& style);
+  void numberGlyphs();
 
   QFont font_;
   QFontMetricsF metrics_;
   double lineHeight_ = 0;
   double base_ = 0;
   std::array<float, kTable> advance_{};
+  QRawFont rawFont_;
+  std::array<quint32, kTable> glyph_{};  // 0: the font lacks it
   double cutSign_ = 0;
 };
 

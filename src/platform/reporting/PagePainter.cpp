@@ -1,8 +1,12 @@
 #include "platform/reporting/PagePainter.h"
 
+#include <QGlyphRun>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPen>
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 #include "platform/reporting/BarCode.h"
 #include "platform/reporting/TextFit.h"
@@ -12,10 +16,22 @@ namespace {
 
 // Letters may reach a little out of their box (slanted ones, and those of a box too low for them).
 constexpr int kOverhang = 120;
+// A PDF tells the place of a run's first letter and each letter's way from the one before, with
+// nine digits, and cuts the rest off: ways below this, in twips, have enough of them left for
+// sixty-fourths of a twip, the finest there are.
+constexpr double kExactWay = 1000;
+
+bool isNear(const QPointF& one, const QPointF& other) {
+  const QPointF way = other - one;
+  return std::abs(way.x()) < kExactWay && std::abs(way.y()) < kExactWay;
+}
 
 class PagePainter {
  public:
-  PagePainter(QPainter& painter, const Page& page) : painter_(painter), page_(page) {}
+  PagePainter(QPainter& painter, const Page& page)
+      : painter_(painter),
+        page_(page),
+        gathers_(painter.paintEngine()->type() == QPaintEngine::Pdf) {}
 
   void paint(const QRectF& exposed) {
     painter_.setBrush(Qt::NoBrush);
@@ -25,15 +41,21 @@ class PagePainter {
         paintItem(item, page_.document().style(item.style));
       }
     }
-    paintLines();
+    paintWaiting();
   }
 
  private:
+  // A line of letters from where it begins.
+  struct Text {
+    QPointF place;
+    QString letters;
+  };
+
   void paintItem(const StoredItem& item, const ItemStyle& style) {
-    // Texts leave lines as they are; what covers them has to find them painted.
+    // Texts and lines leave each other as they are; what covers them has to find them painted.
     if (style.kind != ItemKind::Line &&
         (style.kind != ItemKind::Text || style.backColor.isValid())) {
-      paintLines();
+      paintWaiting();
     }
     switch (style.kind) {
       case ItemKind::Text:
@@ -63,8 +85,30 @@ class PagePainter {
       paintLines();
     }
     lineStyle_ = &style;
-    lines_.append(
-        {QPointF(item.left, item.top), QPointF(item.left + item.width, item.top + item.height)});
+    const QLineF line(item.left, item.top, item.left + item.width, item.top + item.height);
+    if (!lengthensRule(line)) {
+      lines_.append(line);
+    }
+  }
+
+  // The rules between columns go on from row to row; one line does for them.
+  bool lengthensRule(const QLineF& line) {
+    if (line.dx() != 0 || lineStyle_->lineStyle != LineStyle::Solid) {
+      return false;
+    }
+    for (const qsizetype at : rules_) {
+      if (lines_[at].p2() == line.p1()) {
+        lines_[at].setP2(line.p2());
+        return true;
+      }
+    }
+    rules_.push_back(lines_.size());
+    return false;
+  }
+
+  void paintWaiting() {
+    paintLines();
+    paintTexts();
   }
 
   void paintLines() {
@@ -72,6 +116,7 @@ class PagePainter {
       usePen(*lineStyle_);
       painter_.drawLines(lines_);
       lines_.clear();
+      rules_.clear();
       lineStyle_ = nullptr;
     }
   }
@@ -99,7 +144,6 @@ class PagePainter {
     if (text.isEmpty()) {
       return;
     }
-    useTextPen(style);
     const auto lines = 1 + std::count_if(text.begin(), text.end(), endsLine);
     double base = firstBase(item, style, static_cast<int>(lines));
     if (lines == 1) {
@@ -131,7 +175,58 @@ class PagePainter {
       const double spare = item.width - style.face->width(line);
       left += style.align == Alignment::Right ? spare : spare / 2;
     }
-    painter_.drawText(QPointF(left, base), line);
+    if (!gather(line, QPointF(left, base), style)) {
+      paintTexts();
+      useTextPen(style);
+      painter_.drawText(QPointF(left, base), line);
+    }
+  }
+
+  // A PDF has each letter with its place. What a text costs besides is saved by handing over the
+  // letters of many texts at once.
+  bool gather(const QString& line, const QPointF& place, const ItemStyle& style) {
+    if (!gathers_ || !style.face->hasGlyphs(line)) {
+      return false;
+    }
+    if (textStyle_ != nullptr &&
+        (textStyle_->face != style.face || textStyle_->color != style.color)) {
+      paintTexts();
+    }
+    textStyle_ = &style;
+    texts_.push_back({place, line});
+    return true;
+  }
+
+  // As they are read, which is the shortest way from one to the other.
+  void paintTexts() {
+    if (textStyle_ == nullptr) {
+      return;
+    }
+    std::stable_sort(texts_.begin(), texts_.end(), [](const Text& one, const Text& other) {
+      return one.place.y() != other.place.y() ? one.place.y() < other.place.y()
+                                              : one.place.x() < other.place.x();
+    });
+    useTextPen(*textStyle_);
+    Face::Glyphs glyphs;
+    for (const Text& text : texts_) {
+      if (!glyphs.places.isEmpty() && !isNear(glyphs.places.last(), text.place)) {
+        paintGlyphs(glyphs);
+      }
+      textStyle_->face->addGlyphs(text.letters, text.place, glyphs);
+    }
+    paintGlyphs(glyphs);
+    texts_.clear();
+    textStyle_ = nullptr;
+  }
+
+  void paintGlyphs(Face::Glyphs& glyphs) {
+    QGlyphRun run;
+    run.setRawFont(textStyle_->face->rawFont());
+    run.setRawData(glyphs.numbers.constData(), glyphs.places.constData(),
+                   static_cast<int>(glyphs.numbers.size()));
+    painter_.drawGlyphRun(QPointF(), run);
+    glyphs.numbers.clear();
+    glyphs.places.clear();
   }
 
   // Bars are filled areas, so that they have the same edges at every resolution.
@@ -185,6 +280,10 @@ class PagePainter {
   const ItemStyle* pen_ = nullptr;
   const ItemStyle* lineStyle_ = nullptr;  // of the lines that wait
   QList<QLineF> lines_;
+  std::vector<qsizetype> rules_;  // the upright ones of the lines
+  const bool gathers_;
+  const ItemStyle* textStyle_ = nullptr;  // of the texts that wait
+  std::vector<Text> texts_;
   const Face* face_ = nullptr;
   QColor textColor_;
 };

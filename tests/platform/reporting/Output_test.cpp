@@ -6,13 +6,18 @@
 #include <QDir>
 #include <QFile>
 #include <QPageRanges>
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <cmath>
 
+#include "platform/reporting/PagePainter.h"
 #include "tests/platform/reporting/SampleReport.h"
 #include "tests/support/TestMain.h"
 
@@ -70,6 +75,33 @@ void setPdf(QPrinter& printer, const QString& path) {
   printer.setOutputFileName(path);
 }
 
+// Notes the lines that are painted on it.
+class LineCounter : public QPaintDevice {
+ public:
+  const QList<QLineF>& lines() const { return engine_.seen; }
+  QPaintEngine* paintEngine() const override { return &engine_; }
+
+ protected:
+  int metric(PaintDeviceMetric metric) const override {
+    return metric == PdmWidth || metric == PdmHeight ? 20'000 : 72;
+  }
+
+ private:
+  struct Engine : QPaintEngine {
+    Engine() : QPaintEngine(AllFeatures) {}
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState&) override {}
+    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+    void drawLines(const QLineF* lines, int count) override {
+      seen += QList<QLineF>(lines, lines + count);
+    }
+    Type type() const override { return User; }
+    QList<QLineF> seen;
+  };
+  mutable Engine engine_;
+};
+
 }  // namespace
 
 class OutputTest : public QObject {
@@ -78,6 +110,10 @@ class OutputTest : public QObject {
  private slots:
   void keepsADrawingOnce();
   void pdfHoldsTheTextsInReadingOrder();
+  void pdfHoldsTextsOfEveryKind_data();
+  void pdfHoldsTextsOfEveryKind();
+  void pdfHasTheLettersWhereTheyStand();
+  void rulesThatGoOnAreOneLine();
   void pdfHasPaperAndTitle();
   void landscapePaperStaysSo();
   void pdfReplacesAnOlderOne();
@@ -112,6 +148,83 @@ void OutputTest::pdfHoldsTheTextsInReadingOrder() {
     expected << QString::number(page + 1) << QStringLiteral("2");
     QCOMPARE(textsOfPdf(pdf, page + 1).simplified(), expected.join(QLatin1Char(' ')));
   }
+}
+
+void OutputTest::pdfHoldsTextsOfEveryKind_data() {
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<QByteArray>("more");
+  const QByteArray none;
+  QTest::newRow("letters") << "Adiantamento à Fazenda" << none;
+  QTest::newRow("joined letters") << "oficial, fluxo, efêmero" << none;
+  QTest::newRow("underlined") << "Atenção" << QByteArray(R"(, "font": {"underline": true})");
+  QTest::newRow("beyond the table") << "100 € – 200 €" << none;
+  QTest::newRow("bold, to the right")
+      << "1.234,56" << QByteArray(R"(, "align": "right", "font": {"bold": true})");
+}
+
+void OutputTest::pdfHoldsTextsOfEveryKind() {
+  QFETCH(QString, text);
+  QFETCH(QByteArray, more);
+  const QTemporaryDir folder;
+  const QString pdf = folder.filePath(QStringLiteral("texto.pdf"));
+  Report report(layoutOf(R"({"kind": "Detail", "height": 900, "elements": [
+      {"kind": "Field", "name": "antes", "left": 0, "top": 0, "width": 5000, "height": 250,
+       "text": "antes"},
+      {"kind": "Field", "name": "texto", "left": 0, "top": 300, "width": 8000, "height": 250)" +
+                         more + R"(},
+      {"kind": "Field", "name": "depois", "left": 0, "top": 600, "width": 5000, "height": 250,
+       "text": "depois"}]})"));
+  report.setText(u"texto", text);
+  report.build();
+  exportPdf(*report.document(), pdf);
+  QCOMPARE(textsOfPdf(pdf, 1).simplified(), QStringLiteral("antes ") + text + " depois");
+}
+
+// Texts far from each other, with places that a PDF cannot tell whole: where their words begin, to
+// a fiftieth of a point.
+void OutputTest::pdfHasTheLettersWhereTheyStand() {
+  const QTemporaryDir folder;
+  const QString pdf = folder.filePath(QStringLiteral("lugares.pdf"));
+  Report report(layoutOf(R"({"kind": "Detail", "height": 300, "elements": [
+      {"kind": "Label", "name": "um", "left": 0, "top": 0, "width": 2000, "height": 250,
+       "text": "um"},
+      {"kind": "Label", "name": "dois", "left": 3001, "top": 0, "width": 1999, "height": 250,
+       "text": "dois", "align": "center"},
+      {"kind": "Label", "name": "tres", "left": 5003, "top": 0, "width": 3997, "height": 250,
+       "text": "tres", "align": "right"}]})"));
+  report.build();
+  exportPdf(*report.document(), pdf);
+  QProcess process;
+  process.start(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf, QStringLiteral("-")});
+  QVERIFY(process.waitForFinished());
+  const QString words = QString::fromUtf8(process.readAllStandardOutput());
+  // Letters of ten points in this face are 120 twips wide, and a point is twenty.
+  const QList<std::pair<const char*, double>> expected{
+      {"um", 1000}, {"dois", 1000 + 3001 + (1999 - 480) / 2.0}, {"tres", 1000 + 9000 - 480}};
+  for (const auto& [word, left] : expected) {
+    const QRegularExpression place(
+        QStringLiteral("xMin=\"([0-9.]+)\"[^>]*>%1<").arg(QLatin1String(word)));
+    const QRegularExpressionMatch found = place.match(words);
+    QVERIFY2(found.hasMatch(), qPrintable(words));
+    QVERIFY2(std::abs(found.captured(1).toDouble() - left / 20) < 0.02, qPrintable(words));
+  }
+}
+
+void OutputTest::rulesThatGoOnAreOneLine() {
+  SampleRows rows(10);
+  Report report(layoutOf(R"({"kind": "Detail", "height": 300, "elements": [
+      {"kind": "Line", "name": "a", "left": 0, "top": 0, "width": 0, "height": 300},
+      {"kind": "Line", "name": "b", "left": 5000, "top": 0, "width": 0, "height": 290},
+      {"kind": "Line", "name": "c", "left": 0, "top": 300, "width": 5000, "height": 0}]})"));
+  report.setSource(rows.connection(), SampleRows::all());
+  report.build();
+  LineCounter counter;
+  QPainter painter(&counter);
+  paintPage(painter, report.document()->page(0));
+  painter.end();
+  // The first for all rows; the second has gaps, and the level ones are apart.
+  QCOMPARE(counter.lines().size(), 1 + 10 + 10);
+  QVERIFY(counter.lines().contains(QLineF(1000, 1000, 1000, 4000)));
 }
 
 void OutputTest::pdfHasPaperAndTitle() {
