@@ -18,6 +18,7 @@ class ErrosTest : public QObject {
         {.text = QStringLiteral("Houve um erro interno:\n\nNúmero do erro:\n3022\n"
                                 "Descrição :\nJá existe um registro com este número.\n"
                                 "Origem :\nBanco / Função Save_reg"),
+         .title = QStringLiteral("Aviso"),
          .icon = BoxIcon::Exclamation});
     Erro_interno(RuntimeError(ErrorNumber::DuplicateKey, QString(), QStringLiteral("Banco")),
                  QStringLiteral("Função Save_reg"));
@@ -39,6 +40,7 @@ class ErrosTest : public QObject {
         {.text = QStringLiteral("Houve um erro interno:\n\nNúmero do erro:\n6\nDescrição :\n"
                                 "O número é grande demais para este campo.\n"
                                 "Origem :\nQuartela / Função imprimir"),
+         .title = QStringLiteral("Aviso"),
          .icon = BoxIcon::Exclamation});
     bool after = false;
     Sob_trava(QStringLiteral("Função imprimir"), [] { throw RuntimeError(ErrorNumber::Overflow); });

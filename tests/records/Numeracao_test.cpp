@@ -102,7 +102,8 @@ class NumeracaoTest : public QObject {
     write("[Contador]\nano=2015\nnumber=1\n[Anterior]\nano=2014\nnumber=327\n");
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(
-        {.text = QStringLiteral("Erro no relógio do micro ou o arquivo INI está adulterado.")});
+        {.text = QStringLiteral("Erro no relógio do micro ou o arquivo INI está adulterado."),
+         .title = QStringLiteral("Aviso")});
     QLineEdit box;
     Novo_item(box, path());
     QCOMPARE(box.text(), QString());
@@ -123,6 +124,7 @@ class NumeracaoTest : public QObject {
     dialogs.expectBox({.text = QStringLiteral("Houve um erro interno:") + test::kAnything + path() +
                                QStringLiteral("\" existe, mas não traz ano nem número.") +
                                test::kAnything,
+                       .title = QStringLiteral("Aviso"),
                        .icon = BoxIcon::Exclamation});
     Novo_item(box, path());
     QCOMPARE(box.text(), QStringLiteral("antes"));
@@ -171,7 +173,8 @@ class NumeracaoTest : public QObject {
     QLineEdit box(QStringLiteral("antes"));
     test::ScriptedDialogs dialogs;
     dialogs.expectBox(
-        {.text = QStringLiteral("Erro no relógio do micro ou o arquivo INI está adulterado.")});
+        {.text = QStringLiteral("Erro no relógio do micro ou o arquivo INI está adulterado."),
+         .title = QStringLiteral("Aviso")});
     Novo_item(box, path());
     QCOMPARE(box.text(), QStringLiteral("antes"));
     QCOMPARE(read(), counter);
