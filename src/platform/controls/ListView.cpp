@@ -19,6 +19,17 @@ namespace quartela {
 namespace {
 
 constexpr int kRowMargin = 3;
+// What a letter and the accents behind it may take in UTF-8.
+constexpr std::size_t kLetterBytes = 9;
+
+QString composed(const QString& text) {
+  return text.normalized(QString::NormalizationForm_C);
+}
+
+// `beginning` is composed.
+bool begins(const QString& text, const QString& beginning) {
+  return composed(text).startsWith(beginning, Qt::CaseInsensitive);
+}
 
 // As it stands, whatever signs it has; the toolkit would break it into lines.
 QString inOneLine(const QString& text) {
@@ -306,10 +317,11 @@ int ListView::findSubItem(const QString& beginning, int from) const {
   if (beginning.isEmpty()) {
     return -1;
   }
-  const auto atMost = static_cast<std::size_t>(beginning.size() + 1) * 3;
+  const QString wanted = composed(beginning);
+  const auto atMost = static_cast<std::size_t>(wanted.size() + 1) * kLetterBytes;
   for (int row = std::max(from, 0); row < count(); ++row) {
     for (int n = 1; n < model_->cells(); ++n) {
-      if (model_->head(row, n, atMost).startsWith(beginning, Qt::CaseInsensitive)) {
+      if (begins(model_->head(row, n, atMost), wanted)) {
         return row;
       }
     }
@@ -484,13 +496,13 @@ void ListView::goTo(int row) {
 void ListView::keyboardSearch(const QString& text) {
   const bool goesOn =
       sinceTyped_.isValid() && sinceTyped_.elapsed() < QApplication::keyboardInputInterval();
-  typed_ = goesOn ? typed_ + text : text;
+  typed_ = composed(goesOn ? typed_ + text : text);
   sinceTyped_.start();
   // A new beginning looks behind the current row, so that one letter typed again and again goes on.
   const int start = std::max(currentIndex().row(), 0) + (goesOn || !hasSelection() ? 0 : 1);
   for (int step = 0; step < count(); ++step) {
     const int row = (start + step) % count();
-    if (this->text(row).startsWith(typed_, Qt::CaseInsensitive)) {
+    if (begins(this->text(row), typed_)) {
       goTo(row);
       return;
     }

@@ -98,7 +98,7 @@ class ListView : public QTreeView {
   // At the next flush when rows or an order wait for it.
   void ensureVisible(int row);
   // The first row, from `from` on, one of whose sub-items begins with `beginning`, without regard
-  // to case; -1 for none and for an empty beginning.
+  // to case, accents behind their letters as composed ones; -1 for none and for an empty beginning.
   int findSubItem(const QString& beginning, int from = 0) const;
 
   // Sorts by the text (0) or by sub-item `cell`: as text, without regard to case, stable.

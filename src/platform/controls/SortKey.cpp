@@ -37,8 +37,9 @@ void appendUtf8(const QString& text, std::string& out) {
 }
 
 void appendKeyBeyondAscii(std::string_view utf8, std::string& out) {
-  const QString folded =
-      QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).toCaseFolded();
+  const QString folded = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()))
+                             .normalized(QString::NormalizationForm_C)
+                             .toCaseFolded();
   QString bare;
   bare.reserve(folded.size());
   for (const char32_t letter : folded.toUcs4()) {

@@ -1,6 +1,6 @@
 // The order of a list's texts: without regard to letter case, accented letters beside their bare
-// ones
-// ("Água" among the A), the accent deciding only between texts that are otherwise the same.
+// ones ("Água" among the A), the accent deciding only between texts that are otherwise the same. A
+// letter with its accent behind it is the composed letter.
 #pragma once
 
 #include <cstdint>

@@ -74,6 +74,7 @@ class ListViewTest : public QObject {
   void firstArrowSelectsTheCurrentRow();
   void homeEndAndPages();
   void typingJumps();
+  void typingMeetsAccentsBehindTheirLetters();
   void typingTheSameLetterGoesOn();
   void headerTellsTheColumnFromOne();
   void sortsByColumnAndTurnsRound();
@@ -391,6 +392,16 @@ void ListViewTest::typingJumps() {
   QCOMPARE(list_->selectedRow(), 2);
   QVERIFY(!clicked.isEmpty());
   QCOMPARE(clicked.last().at(0).toInt(), 2);
+}
+
+void ListViewTest::typingMeetsAccentsBehindTheirLetters() {
+  list_->addItem("Bola");
+  list_->addItem("E\u0301lio");
+  list_->addItem("Íris");
+  show();
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_Eacute, Qt::NoModifier, QStringLiteral("é"));
+  QApplication::sendEvent(list_.get(), &press);
+  QCOMPARE(list_->selectedRow(), 1);
 }
 
 void ListViewTest::typingTheSameLetterGoesOn() {
@@ -736,6 +747,9 @@ void ListViewTest::findsBeginningsOfSubItems_data() {
   QTest::newRow("not the row's text") << "0002" << 0 << -1;
   QTest::newRow("empty") << "" << 0 << -1;
   QTest::newRow("from the next on") << "p" << 1 << 1;
+  QTest::newRow("accent behind its letter") << QStringLiteral("a\u0301g") << 0 << 2;
+  QTest::newRow("row with accents behind") << QStringLiteral("AÇÃO") << 0 << 3;
+  QTest::newRow("bare letter of an accented one") << QStringLiteral("Aça") << 0 << -1;
 }
 
 void ListViewTest::findsBeginningsOfSubItems() {
@@ -745,6 +759,7 @@ void ListViewTest::findsBeginningsOfSubItems() {
   list_->addRow({"0001", "Padaria Central", "12,00"});
   list_->addRow({"0002", "Posto Norte", "77,00"});
   list_->addRow({"0003", "Água Mineral", "3,00"});
+  list_->addRow({"0004", "Ac\u0327a\u0303o Social", "1,00"});
   QCOMPARE(list_->findSubItem(beginning, from), row);
 }
 

@@ -147,6 +147,8 @@ void RowStoreTest::sortsByText_data() {
       << QStringList{"Ábaco", "Agua", "Água", "água doce", "Bola", "Zelo"};
   QTest::newRow("accents decide last")
       << QStringList{"é", "e", "É", "E"} << QStringList{"e", "E", "é", "É"};
+  QTest::newRow("accents behind their letters") << QStringList{"e\u0301b", "éc", "e\u0301a", "ez"}
+                                                << QStringList{"e\u0301a", "e\u0301b", "éc", "ez"};
   QTest::newRow("numbers as text")
       << QStringList{"10", "9", "100", "1"} << QStringList{"1", "10", "100", "9"};
   QTest::newRow("same first eight") << QStringList{"prefeitura b", "prefeitura", "prefeitura a"}
