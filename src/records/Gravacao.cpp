@@ -59,8 +59,9 @@ QMap<QString, Value> campos(const Recordset& linhas) {
 
 Value chave_de(const QString& tabela, const QMap<QString, Value>& linha) {
   for (const CatalogueColumn& coluna : Conexao->catalogue().table(tabela)->columns) {
-    if (coluna.primaryKey) {
-      return linha.value(coluna.name);
+    if (const auto celula = linha.constFind(coluna.name);
+        coluna.primaryKey && celula != linha.constEnd()) {
+      return *celula;
     }
   }
   return {};
@@ -137,7 +138,7 @@ void le_que_vao(const QString& tabela, const QString& condicao, bool arrastada,
                    .arrastada = arrastada});
     for (const Dependencia& outra : kDependencias) {
       if (tabela == QLatin1String(outra.dona)) {
-        const QString dona = Convert::toText(linha.value(QLatin1String(outra.chave)));
+        const QString dona = Convert::toText(linha[QLatin1String(outra.chave)]);
         le_que_vao(QLatin1String(outra.tabela),
                    QLatin1String(outra.coluna) + QStringLiteral(" = ") + dona, true, vao);
       }
