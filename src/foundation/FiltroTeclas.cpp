@@ -29,12 +29,26 @@ class Filtro : public QObject {
   }
 
   bool eventFilter(QObject* objeto, QEvent* evento) override {
-    return (!caixa_.isReadOnly() && trata(*evento)) || QObject::eventFilter(objeto, evento);
+    return trata(*evento) || QObject::eventFilter(objeto, evento);
   }
 
  private:
-  // True when the event goes no further.
+  // True when the event goes no further. Other events also come while the line is being destroyed:
+  // it is asked nothing then.
   bool trata(QEvent& evento) {
+    switch (evento.type()) {
+      case QEvent::KeyPress:
+      case QEvent::InputMethod:
+      case QEvent::MouseButtonRelease:
+      case QEvent::Drop:
+      case QEvent::ContextMenu:
+        return !caixa_.isReadOnly() && filtra(evento);
+      default:
+        return false;
+    }
+  }
+
+  bool filtra(QEvent& evento) {
     switch (evento.type()) {
       case QEvent::KeyPress:
         return aperta(static_cast<QKeyEvent&>(evento));
