@@ -2,6 +2,8 @@
 
 #include <QDialog>
 #include <QEvent>
+#include <QFont>
+#include <QPalette>
 #include <QPointer>
 #include <QScreen>
 #include <QWidget>
@@ -62,6 +64,42 @@ Qt::WindowFlags asDialog(const QWidget& form) {
          Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
 }
 
+// The fonts and colours that the parts of a window were given.
+class OwnLooks {
+ public:
+  explicit OwnLooks(const QWidget& form) {
+    const QList<QWidget*> parts = form.findChildren<QWidget*>();
+    for (QWidget* const part : parts) {
+      if (part->testAttribute(Qt::WA_SetFont) || part->testAttribute(Qt::WA_SetPalette)) {
+        looks_.append({part, part->font(), part->palette()});
+      }
+    }
+  }
+
+  void giveBack() const {
+    for (const Look& look : looks_) {
+      look.part->setFont(look.font);
+      look.part->setPalette(look.palette);
+    }
+  }
+
+ private:
+  struct Look {
+    QWidget* part;
+    QFont font;
+    QPalette palette;
+  };
+
+  QList<Look> looks_;
+};
+
+// A style sheet takes them away from a window that changes its parent.
+void adopt(QWidget& form, QWidget& parent) {
+  const OwnLooks looks(form);
+  form.setParent(&parent, asDialog(form));
+  looks.giveBack();
+}
+
 // As far as the screen allows; a window without a parent stays where the window system puts it.
 void centreOnParent(QWidget& form) {
   const QWidget* const parent = form.parentWidget();
@@ -89,7 +127,7 @@ void add(QWidget* form) {
     return;
   }
   if (mainWindow() != nullptr && mainWindow() != form && form->parentWidget() == nullptr) {
-    form->setParent(mainWindow(), asDialog(*form));
+    adopt(*form, *mainWindow());
   }
   for (const QPointer<CloseWatch>& watch : watches()) {
     if (watch->form() == form) {

@@ -2,6 +2,8 @@
 
 #include <QCloseEvent>
 #include <QDialog>
+#include <QLabel>
+#include <QTabWidget>
 
 #include "tests/support/TestMain.h"
 
@@ -39,6 +41,7 @@ class OpenFormsTest : public QObject {
   void refusedCloseStays();
   void hiddenFormsStay();
   void shownAgainIsOpenAgain();
+  void aChildOfTheMainWindowKeepsItsLooks();
 };
 
 void OpenFormsTest::keepsTheOrderOfOpening() {
@@ -103,6 +106,38 @@ void OpenFormsTest::shownAgainIsOpenAgain() {
   a->close();
   OpenForms::add(a.get());
   QCOMPARE(OpenForms::all(), (QList<QWidget*>{b.get(), a.get()}));
+}
+
+// On each page of the form, the one that is not shown at first too.
+void OpenFormsTest::aChildOfTheMainWindowKeepsItsLooks() {
+  qApp->setStyleSheet(QStringLiteral("QLabel#title { color: #ff0000; }"));
+  QWidget main;
+  main.show();
+  OpenForms::setMainWindow(&main);
+  auto* const form = new QWidget;
+  auto* const pages = new QTabWidget(form);
+  QList<QLabel*> labels;
+  for (const char* const name : {"first", "second"}) {
+    auto* const label = new QLabel(QLatin1String(name));
+    pages->addTab(label, QLatin1String(name));
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    QPalette colours = label->palette();
+    colours.setColor(QPalette::WindowText, Qt::blue);
+    label->setPalette(colours);
+    labels << label;
+  }
+  OpenForms::add(form);
+  OpenForms::showInFront(*form);
+  QCOMPARE(form->parentWidget(), &main);
+  for (int page = 0; page < labels.size(); ++page) {
+    pages->setCurrentIndex(page);
+    QVERIFY(labels.at(page)->isVisible());
+    QVERIFY(labels.at(page)->font().bold());
+    QCOMPARE(labels.at(page)->palette().color(QPalette::WindowText), QColor(Qt::blue));
+  }
+  qApp->setStyleSheet(QString());
 }
 
 QUARTELA_TEST_MAIN(OpenFormsTest)
