@@ -4,14 +4,11 @@
 #include <QLayout>
 #include <QScreen>
 #include <QScrollArea>
-#include <algorithm>
 
 #include "foundation/Evento.h"
 
 namespace quartela::Tamanho {
 namespace {
-
-constexpr int kMargensDosLados = 60;
 
 // Asks for as much room as its contents do, where the toolkit's own asks for a part of it.
 class Rolagem : public QScrollArea {
@@ -34,11 +31,13 @@ class Rolagem : public QScrollArea {
                                : widget()->sizeHint().expandedTo(widget()->minimumSize());
   }
 
-  // What it can be lower by than its contents need.
-  int altura_escondida() const {
-    const int inteira =
-        std::max(widget()->minimumSizeHint().height(), widget()->minimumSize().height());
-    return inteira - minimumSizeHint().height();
+  // Insists, while `insiste`, on the room that its contents need.
+  void exige(bool insiste) {
+    setMinimumSize(insiste ? widget()->minimumSizeHint().expandedTo(widget()->minimumSize())
+                           : QSize(0, 0));
+    for (QWidget* parte = this; !parte->isWindow(); parte = parte->parentWidget()) {
+      parte->updateGeometry();
+    }
   }
 
  protected:
@@ -65,17 +64,21 @@ QSize maximo(const QWidget& janela) {
   return janela.screen()->availableSize() - kMoldura;
 }
 
-// What stands above and below the contents adds to their height; beside them stand margins only, as
-// the rows above and below are narrower or tell their width in the window's own.
+// What the window needs is asked of its own layout: the room of two scroll areas beside each other
+// adds up, that of pages behind each other does not.
 void mostra_inteira(QWidget& janela) {
-  QSize precisa = janela.size();
-  for (const QScrollArea* const area : janela.findChildren<QScrollArea*>()) {
-    if (const auto* const rolagem = dynamic_cast<const Rolagem*>(area)) {
-      const QSize minima = janela.minimumSizeHint();
-      const int largura = rolagem->widget()->minimumSizeHint().width() + kMargensDosLados;
-      precisa = precisa.expandedTo(
-          {std::max(minima.width(), largura), minima.height() + rolagem->altura_escondida()});
+  QList<Rolagem*> rolagens;
+  for (QScrollArea* const area : janela.findChildren<QScrollArea*>()) {
+    if (auto* const rolagem = dynamic_cast<Rolagem*>(area)) {
+      rolagens.append(rolagem);
     }
+  }
+  for (Rolagem* const rolagem : rolagens) {
+    rolagem->exige(true);
+  }
+  const QSize precisa = janela.size().expandedTo(janela.minimumSizeHint());
+  for (Rolagem* const rolagem : rolagens) {
+    rolagem->exige(false);
   }
   if (precisa != janela.size()) {
     janela.resize(precisa);

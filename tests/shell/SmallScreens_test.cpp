@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTest>
 #include <functional>
 
@@ -22,8 +23,12 @@
 #include "masterdata/frmTipos.h"
 #include "masterdata/frmTomador.h"
 #include "platform/controls/ListView.h"
+#include "platform/controls/OpenForms.h"
 #include "platform/controls/StatusBar.h"
+#include "platform/reporting/ReportPreview.h"
 #include "records/Principal.h"
+#include "reports/Saida.h"
+#include "reports/arRequisicao.h"
 #include "screens/frmAdiantamento.h"
 #include "screens/frmAviso.h"
 #include "screens/frmCadastro.h"
@@ -42,6 +47,7 @@ Q_DECLARE_METATYPE(Opening)
 namespace quartela {
 namespace {
 
+constexpr int kWidestProcess = 1050;
 // A list that shows its header and some rows.
 constexpr int kLeastList = 100;
 
@@ -164,6 +170,8 @@ class SmallScreensTest : public QObject {
     QVERIFY(QTest::qWaitForWindowExposed(window));
     QCOMPARE(misfits(*window, {"cmdOk", "cmdAplicar", "cmdImprimir", "Command1_0", "cmdPrestacao"}),
              QString());
+    // No wider than what stands in it asks for.
+    QVERIFY2(window->width() <= kWidestProcess, qPrintable(placeOf(*window)));
     everyFieldCanBeReached(*window);
   }
 
@@ -253,6 +261,17 @@ class SmallScreensTest : public QObject {
     if (const auto* const list = window.findChild<ListView*>()) {
       QVERIFY2(list->height() >= kLeastList, qPrintable(placeOf(*list)));
     }
+  }
+
+  void thePreview() {
+    Exibe(arRequisicao({}));
+    auto* const window = qobject_cast<reporting::ReportPreview*>(OpenForms::all().value(0));
+    QVERIFY(window != nullptr);
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QTRY_COMPARE(window->document()->pageCount(), 1);
+    QCOMPARE(misfits(*window, {"button-print", "button-save", "pageNumber", "button-close"}),
+             QString());
+    QVERIFY(window->rect().contains(window->statusBar()->geometry()));
   }
 
   // At its opening size, with more rows than fit, wherever the screen has the room.
