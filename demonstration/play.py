@@ -149,7 +149,7 @@ class Play:
         self.display.no_window(title)
 
     def open_process(self):
-        """Opens the process: the delivered counter begins at 1, below the town's own numbers of the year."""
+        """Opens the process: its number, the first that the delivered counter gives, is below the town's own."""
         self.display.no_window("Cadastro de Requisição")
         self.display.focus("Quartela 2014")
         self.keys("End", "Return")
