@@ -14,6 +14,8 @@
 #include "foundation/Abertura.h"
 #include "foundation/Banco.h"
 #include "foundation/Caminhos.h"
+#include "foundation/Verificacao.h"
+#include "platform/database/engines/sqlite/FileCheck.h"
 #include "platform/dialogs/Dialogs.h"
 #include "records/cRequisicao.h"
 
@@ -229,7 +231,43 @@ void benchSave() {
          .peer = peer,
          .target = 1.2,
          .unit = QStringLiteral("us")});
+  const QByteArray path = QFile::encodeName(oursPath);
+  print({.measure = QStringLiteral("  of it: the open file is the one at the path, asked twice"),
+         .ours = median(2'001,
+                        [&] {
+                          sqlite::identityOf(path.constData());
+                          sqlite::identityOf(path.constData());
+                        }),
+         .target = 10,
+         .unit = QStringLiteral("us")});
   Fecha_banco();
+}
+
+// The office's file opened and its list read, with the check for damage to come as at a login.
+void benchDamageCheck() {
+  const QString path = benchmarkDatabase();
+  const auto [ours, peer] = medians(
+      9,
+      [&] {
+        // Without a note of the last one a check is due at every opening.
+        const QTemporaryDir noDates;
+        qputenv("XDG_DATA_HOME", QFile::encodeName(noDates.path()));
+        openConnection(path);
+        Agenda_verificacao(path);
+        loadAndRead();
+        Encerra_verificacao();
+      },
+      [&] {
+        openConnection(path);
+        loadAndRead();
+      });
+  qunsetenv("XDG_DATA_HOME");
+  Fecha_banco();
+  print({.measure = QStringLiteral("opening and first list with the check for damage | without it"),
+         .ours = ours / 1000,
+         .peer = peer / 1000,
+         .target = 1.2,
+         .unit = QStringLiteral("ms")});
 }
 
 void benchLike() {

@@ -37,6 +37,7 @@ QString benchmarkDatabase();
 void benchRecordset();
 void benchDialect();
 void benchSave();
+void benchDamageCheck();
 void benchLike();
 void benchStart();
 void benchMainWindow();

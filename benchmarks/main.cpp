@@ -17,6 +17,7 @@ constexpr Group kGroups[] = {
     {"recordset", quartela::bench::benchRecordset},
     {"dialect", quartela::bench::benchDialect},
     {"save", quartela::bench::benchSave},
+    {"damage-check", quartela::bench::benchDamageCheck},
     {"like", quartela::bench::benchLike},
     {"start", quartela::bench::benchStart},
     {"main-window", quartela::bench::benchMainWindow},

@@ -83,7 +83,7 @@ void Abre_banco() {
     }
     mostra_Splash();
     Anota_acesso();
-    Comeca_verificacao(nativePath(caminhos.geral));
+    Agenda_verificacao(nativePath(caminhos.geral));
   } catch (const RuntimeError& erro) {
     if (erro.code() == ErrorNumber::InvalidPath || erro.code() == ErrorNumber::DatabaseNotFound) {
       pede_caminho(erro);

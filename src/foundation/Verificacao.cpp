@@ -6,7 +6,9 @@
 #include <QStandardPaths>
 #include <QStringList>
 #include <QThread>
+#include <QTimer>
 #include <atomic>
+#include <chrono>
 #include <memory>
 
 #include "platform/database/Damage.h"
@@ -30,6 +32,18 @@ struct Em_curso {
 std::unique_ptr<Em_curso>& em_curso() {
   static std::unique_ptr<Em_curso> verificacao;
   return verificacao;
+}
+
+// The splash is gone and the list filled by then.
+constexpr std::chrono::seconds kDepoisDoInicio{8};
+
+QTimer& espera() {
+  static QTimer* const relogio = [] {
+    auto* const novo = new QTimer(qApp);
+    novo->setSingleShot(true);
+    return novo;
+  }();
+  return *relogio;
 }
 
 QString pasta_do_usuario() {
@@ -102,6 +116,11 @@ void examina(const QString& arquivo, CheckDepth alcance, const Em_curso& curso) 
 
 }  // namespace
 
+void Agenda_verificacao(const QString& arquivo) {
+  espera().callOnTimeout(qApp, [arquivo] { Comeca_verificacao(arquivo); });
+  espera().start(kDepoisDoInicio);
+}
+
 void Comeca_verificacao(const QString& arquivo) {
   Encerra_verificacao();
   try {
@@ -121,6 +140,8 @@ void Comeca_verificacao(const QString& arquivo) {
 }
 
 void Encerra_verificacao() {
+  espera().stop();
+  espera().disconnect();
   if (em_curso()) {
     em_curso()->cancelada = true;
     em_curso()->linha->wait();

@@ -6,10 +6,13 @@
 
 namespace quartela {
 
+// Has the file checked once the main window is up, so that the login is no slower for it.
+void Agenda_verificacao(const QString& arquivo);
+
 // Begins the check of the file that is due today, if one is; returns at once. One at a time.
 void Comeca_verificacao(const QString& arquivo);
 
-// Ends a check that is under way and waits for that; called before the file is closed.
+// Ends a check that is under way or to come and waits for that; called before the file is closed.
 void Encerra_verificacao();
 
 }  // namespace quartela

@@ -8,6 +8,8 @@
 
 #include "foundation/Abertura.h"
 #include "foundation/Banco.h"
+#include "foundation/Splash.h"
+#include "foundation/UmaJanela.h"
 #include "platform/values/Clock.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
@@ -61,6 +63,17 @@ class VerificacaoTest : public QObject {
     }
     QVERIFY(!dates().contains("2014-11-24"));
     QCOMPARE(office_->ask("SELECT PROCESSO FROM Adiantamento"), QStringLiteral("999"));
+  }
+
+  void theLoginHasTheFileChecked() {
+    test::ScriptedDialogs dialogs;
+    dialogs.expectBox({.text = QStringLiteral("Houve um erro interno:") + test::kAnything +
+                               QStringLiteral("Função Load"),
+                       .icon = BoxIcon::Exclamation});
+    Fecha_banco();
+    Abre_banco();
+    QTRY_VERIFY_WITH_TIMEOUT(dates().contains("dia="), 60'000);
+    UmaJanela<Splash>::aberta() ? UmaJanela<Splash>::aberta()->close() : true;
   }
 
   void closingDoesNotWaitForIt() {

@@ -58,19 +58,37 @@ int closeFile(sqlite3_file* file) {
   return code;
 }
 
-int unlockFile(sqlite3_file* file, int level) {
+// On the way to a lock the engine gives another one up; when that fails it forgets the lock that it
+// has got.
+int lockFile(sqlite3_file* file, int level) {
   const sqlite3_io_methods* const system = systemMethods(file);
-  int code = SQLITE_IOERR_UNLOCK;
-  for (int i = 0; i < kTries && code != SQLITE_OK; ++i) {
-    code = system->xUnlock(file, level);
+  int code = system->xLock(file, level);
+  const bool isForgotten = code == SQLITE_IOERR_UNLOCK;
+  for (int i = 0; isForgotten && i < kTries && code != SQLITE_OK; ++i) {
+    code = system->xLock(file, level);
   }
   return code;
+}
+
+// The engine takes a lock that it could not give up for given up: it has to be taken once more
+// before it can be. What was saved is saved, whatever becomes of the lock, so the caller is not
+// told.
+int unlockFile(sqlite3_file* file, int level) {
+  const sqlite3_io_methods* const system = systemMethods(file);
+  int code = system->xUnlock(file, level);
+  for (int i = 0; i < kTries && code != SQLITE_OK; ++i) {
+    const bool isHeld =
+        level != SQLITE_LOCK_NONE || system->xLock(file, SQLITE_LOCK_SHARED) == SQLITE_OK;
+    code = isHeld ? system->xUnlock(file, level) : code;
+  }
+  return SQLITE_OK;
 }
 
 void watch(const char* name, sqlite3_file* file) {
   const std::scoped_lock lock(mutex);
   DatabaseFile& entry = openFiles.emplace_back(name, file, file->pMethods, *file->pMethods);
   entry.methods.xClose = closeFile;
+  entry.methods.xLock = lockFile;
   entry.methods.xUnlock = unlockFile;
   file->pMethods = &entry.methods;
 }
