@@ -17,7 +17,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from desktop import Display, require_tools, rows  # noqa: E402
 
 SOURCE = Path(__file__).resolve().parents[1]
-PROCESSES = 150  # small enough that the year's numbers stay four digits that every screen can open
+PROCESSES = 150  # few enough for a quick start, many enough for lists that scroll
 # Words without accents: a letter that the keyboard of the screen lacks is put on it in passing, and now and
 # then comes too late.
 PURPOSE = ("Curso sobre contas municipais em Belo Horizonte, com dois participantes: contador e tesoureiro. "
