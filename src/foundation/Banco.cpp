@@ -99,7 +99,7 @@ void Oferece_reabrir() {
           "Deseja abrir o arquivo que está agora em \"%1\"?\n\nO que foi digitado continua na "
           "tela; grave outra vez depois.")
           .arg(nativePath(caminhos.geral));
-  if (!Dialogs::confirm(pergunta, QStringLiteral("Aviso"))) {
+  if (!Dialogs::confirm(pergunta)) {
     return;
   }
   try {

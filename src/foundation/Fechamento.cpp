@@ -70,7 +70,6 @@ QString Conteudo_digitado(const QWidget& tela) {
 bool Confirma_abandono() {
   return Dialogs::box(
              {.text = QStringLiteral("O que foi digitado não foi gravado. Sair assim mesmo?"),
-              .title = QStringLiteral("Aviso"),
               .icon = BoxIcon::Question,
               .buttons = {Button::Yes, Button::No},
               .defaultButton = Button::No}) == Button::Yes;

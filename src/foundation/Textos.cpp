@@ -18,7 +18,7 @@ constexpr int kFimBarras = 39;
 
 QString fator_vencimento(const Value& vencimento) {
   const DateTime base = DateTime::of(1997, 10, 7);
-  const DateTime data = Convert::toDateTime(Format(vencimento, u"dd/MM/yyyy"));
+  const DateTime data = Convert::toDateTime(Format(vencimento, kDateFormat));
   return QString::number(data.days() - base.days());
 }
 

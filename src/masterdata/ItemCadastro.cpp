@@ -10,7 +10,7 @@
 namespace quartela {
 namespace {
 
-const QString kAviso = QStringLiteral("Aviso");
+constexpr int kDigitosChave = 3;
 
 }  // namespace
 
@@ -58,13 +58,17 @@ int ItemCadastro::linha() const {
 bool ItemCadastro::tem_item() const {
   const bool tem = linha() >= 0;
   if (!tem) {
-    Dialogs::stop(QStringLiteral("Informe um item !!!"), kAviso);
+    Dialogs::stop(QStringLiteral("Informe um item !!!"));
   }
   return tem;
 }
 
 QString ItemCadastro::coluna(int n) const {
   return linha() < 0 ? QString() : lista_.subItem(linha(), n);
+}
+
+QString ItemCadastro::chave_na_coluna(int n) const {
+  return coluna(n).left(kDigitosChave);
 }
 
 bool ItemCadastro::marcada() const {
@@ -76,9 +80,8 @@ void ItemCadastro::clica(int linha) {
 }
 
 void ItemCadastro::exclui_item() {
-  if (!tem_item() ||
-      !Dialogs::confirm(
-          tag_ + QStringLiteral(" - ") + QStringLiteral("Confirma exclusão deste item?"), kAviso)) {
+  if (!tem_item() || !Dialogs::confirm(tag_ + QStringLiteral(" - ") +
+                                       QStringLiteral("Confirma exclusão deste item?"))) {
     return;
   }
   exclui_(Convert::toI16(tag_));

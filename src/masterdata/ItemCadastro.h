@@ -34,6 +34,8 @@ class ItemCadastro : public QObject {
 
   // A sub-item of the row of Tag(); empty without one.
   QString coluna(int n) const;
+  // The key in front of a name in a sub-item, "001 - Saúde"; of one of four digits the first three.
+  QString chave_na_coluna(int n) const;
   // The check box of that row.
   bool marcada() const;
 

@@ -34,7 +34,6 @@ constexpr int kMargem = 12;
 constexpr int kAlturaCampo = 28;
 // A label with an underlined letter is drawn without kerning, a little wider than it measures.
 constexpr int kFolgaRotulo = 2;
-const QString kAviso = QStringLiteral("Aviso");
 
 QPushButton* novo_botao(QWidget* dono, const BotaoCadastro& botao) {
   auto* const novo = new QPushButton(botao.texto, dono);
@@ -220,7 +219,7 @@ bool TelaCadastro::tem_digitacao() const {
 
 bool TelaCadastro::Salvar() {
   if (Campos_vazios(*abas_->widget(kCadastro))) {
-    Dialogs::exclamation(obrigatorios_, kAviso);
+    Dialogs::exclamation(obrigatorios_);
     return false;
   }
   if (ordem_.text() == kNumeracaoAutomatica) {

@@ -12,8 +12,6 @@
 namespace quartela {
 namespace {
 
-constexpr int kDigitosChave = 3;  // of the keys in front of the names in the list
-
 AparenciaCadastro aparencia() {
   return {.pesquisar_por = QStringLiteral("Pesquisar por Dotação:"),
           .colunas = {{QStringLiteral("ORDEM"), 1411},
@@ -79,8 +77,8 @@ void frmDotacao::altera() {
   Carrega_Controles(*ui_->cmbTipo, QStringLiteral("Tipos"), QStringLiteral("TIPO"),
                     QStringLiteral("SEQUENCIA"), kTodos);
   carrega_secretarias();
-  ui_->cmbSetor->selectByData(Convert::toI32(tela_->item().coluna(2).left(kDigitosChave)));
-  ui_->cmbTipo->selectByData(Convert::toI32(tela_->item().coluna(1).left(kDigitosChave)));
+  ui_->cmbSetor->selectByData(Convert::toI32(tela_->item().chave_na_coluna(2)));
+  ui_->cmbTipo->selectByData(Convert::toI32(tela_->item().chave_na_coluna(1)));
   ui_->txtdotacao->setText(tela_->item().coluna(3));
   ui_->txtano->setText(tela_->item().coluna(4));
   ui_->txtdescricao->setText(tela_->item().coluna(5));

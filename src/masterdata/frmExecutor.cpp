@@ -9,12 +9,6 @@
 #include "ui_frmExecutor.h"
 
 namespace quartela {
-namespace {
-
-constexpr int kDigitosChave = 3;  // of the key in front of a secretariat's name in the list
-
-}  // namespace
-
 frmExecutor::frmExecutor(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmExecutor>()) {
   ui_->setupUi(this);
@@ -63,7 +57,7 @@ void frmExecutor::inclui() {
 // gone.
 void frmExecutor::altera() {
   carrega_secretarias();
-  ui_->cmbOrgao->selectByData(Convert::toI32(tela_->item().coluna(1).left(kDigitosChave)));
+  ui_->cmbOrgao->selectByData(Convert::toI32(tela_->item().chave_na_coluna(1)));
   ui_->txtnome->setText(tela_->item().coluna(2));
   ui_->txtrg->setText(tela_->item().coluna(3));
   ui_->txtcpf->setText(tela_->item().coluna(4));

@@ -19,14 +19,12 @@
 namespace quartela {
 namespace {
 
-// Where key and name of the type stand in the list's column: "001 - Diárias".
-constexpr int kDigitosChave = 3;
+// Where the name of the type stands in the list's column: "001 - Diárias".
 constexpr int kInicioNome = 6;
 constexpr int kTamanhoNome = 20;
 constexpr int kDigitosPrazo = 2;
 // Pixels: the header and some rows, also on the smallest screen.
 constexpr int kAlturaLista = 100;
-const QString kAviso = QStringLiteral("Aviso");
 
 }  // namespace
 
@@ -130,10 +128,9 @@ void frmLei::altera() {
   if (!item_->tem_item()) {
     return;
   }
-  const QString tipo = item_->coluna(1);
   ui_->Text1->setText(item_->Tag());
-  ui_->Text3->setText(tipo.left(kDigitosChave));
-  tipo_ = tipo.mid(kInicioNome, kTamanhoNome);
+  ui_->Text3->setText(item_->chave_na_coluna(1));
+  tipo_ = item_->coluna(1).mid(kInicioNome, kTamanhoNome);
   ui_->Combo1->setText(tipo_);
   ui_->Text2->setPlainText(item_->coluna(2));
   ui_->Text4->setText(item_->coluna(3));
@@ -169,12 +166,12 @@ void frmLei::edita(bool editando) {
 
 bool frmLei::completo() {
   if (ui_->Text3->text().isEmpty()) {
-    Dialogs::exclamation(QStringLiteral("Informe o tipo de adiantamento !!"), kAviso);
+    Dialogs::exclamation(QStringLiteral("Informe o tipo de adiantamento !!"));
     ui_->Combo1->setFocus();
     return false;
   }
   if (ui_->Text2->toPlainText().isEmpty()) {
-    Dialogs::exclamation(QStringLiteral("Informe o tipo de inciso !!"), kAviso);
+    Dialogs::exclamation(QStringLiteral("Informe o tipo de inciso !!"));
     ui_->Text2->setFocus();
     return false;
   }

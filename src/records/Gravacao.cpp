@@ -14,8 +14,6 @@
 namespace quartela {
 namespace {
 
-const QString kAviso = QStringLiteral("Aviso");
-
 // The rows that the database deletes together with the one that they belong to.
 struct Dependencia {
   const char* dona;
@@ -30,10 +28,10 @@ constexpr std::array kDependencias{
 
 bool confirma(std::int16_t codigo, const Gravacao& gravacao) {
   if (codigo != kInclusao) {
-    return Dialogs::confirm(QStringLiteral("Confirma alteração do registro?"), kAviso);
+    return Dialogs::confirm(QStringLiteral("Confirma alteração do registro?"));
   }
   return !gravacao.pergunta_inclusao ||
-         Dialogs::confirm(QStringLiteral("Confirma inclusão do novo registro?"), kAviso);
+         Dialogs::confirm(QStringLiteral("Confirma inclusão do novo registro?"));
 }
 
 // A row that is being written: when an error leaves, it is given up with its lock before anybody is
@@ -160,10 +158,10 @@ void apaga(const Exclusao& exclusao) {
 }
 
 void avisa_exclusao() {
-  Dialogs::information(QStringLiteral("Se o registro não for excluido da listagem,\n"
-                                      "será porque tem algum outro cadastro\n"
-                                      "ligado a ele. Operação concluida !!!!!!"),
-                       kAviso);
+  Dialogs::information(
+      QStringLiteral("Se o registro não for excluido da listagem,\n"
+                     "será porque tem algum outro cadastro\n"
+                     "ligado a ele. Operação concluida !!!!!!"));
 }
 
 }  // namespace
@@ -205,8 +203,7 @@ Desfecho Tenta_salvar(std::int16_t codigo, const Gravacao& gravacao) {
     return Desfecho::Falhou;
   }
   Dialogs::information(codigo == kInclusao ? QStringLiteral("Registro Salvo!")
-                                           : QStringLiteral("Registro Alterado!"),
-                       kAviso);
+                                           : QStringLiteral("Registro Alterado!"));
   return Desfecho::Gravado;
 }
 

@@ -15,9 +15,6 @@
 namespace quartela {
 namespace {
 
-constexpr QStringView kFormatoData = u"dd/MM/yyyy";
-constexpr QStringView kValor = u"#,##0.00";
-
 constexpr std::array<ColunaLista, cAdiantamento::kColunas> kLista{{
     {"Empenho", ColumnWidth::pixels(78)},
     {"Abertura", ColumnWidth::pixels(82)},
@@ -34,9 +31,9 @@ void adiciona_empenho(ListView& lista) {
   const auto campo = [](int posicao, QStringView formato) {
     return Format(Tabela.field(posicao), formato);
   };
-  lista.addRow({campo(0, u"00000/00"), campo(1, kFormatoData), campo(2, kFormatoData),
-                campo(3, kFormatoData), campo(4, kFormatoData), campo(5, kValor),
-                campo(6, kFormatoData), Convert::toText(Tabela.field(7)),
+  lista.addRow({campo(0, u"00000/00"), campo(1, kDateFormat), campo(2, kDateFormat),
+                campo(3, kDateFormat), campo(4, kDateFormat), campo(5, kAmountFormat),
+                campo(6, kDateFormat), Convert::toText(Tabela.field(7)),
                 Convert::toBool(Tabela.field(8)) ? QStringLiteral("SIM") : QStringLiteral("NÃO")});
 }
 
@@ -113,7 +110,7 @@ Money cAdiantamento::Soma_despesas() {
                 QString::number(processo);
     Abre_consulta(Sql_atual);
     if (Tabela.recordCount() > 0) {
-      soma = Convert::toMoney(Format(Tabela.field(0), kValor));
+      soma = Convert::toMoney(Format(Tabela.field(0), kAmountFormat));
     }
   });
   return soma;

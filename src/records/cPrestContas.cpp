@@ -15,7 +15,6 @@
 namespace quartela {
 namespace {
 
-constexpr QStringView kFormatoValor = u"#,##0.00";
 const QString kNotas = QStringLiteral(
     "SELECT PrestContas.SEQ, PrestContas.DATA, PrestContas.ORDEM, PrestContas.HISTORICO, "
     "PrestContas.DESPESAS From PrestContas Where PrestContas.Processo =");
@@ -33,9 +32,9 @@ constexpr std::array<ColunaLista, cPrestContas::kColunas> kLista{{
 void adiciona_nota(ListView& lista, Money& total) {
   total += Convert::toMoney(Tabela.field(4));
   const int linha =
-      lista.addRow({Format(Tabela.field(0), u"0000"), Format(Tabela.field(1), u"dd/MM/yyyy"),
+      lista.addRow({Format(Tabela.field(0), u"0000"), Format(Tabela.field(1), kDateFormat),
                     Convert::toText(Tabela.field(2)), Convert::toText(Tabela.field(3)),
-                    Format(Tabela.field(4), kFormatoValor), Format(total, kFormatoValor)});
+                    Format(Tabela.field(4), kAmountFormat), Format(total, kAmountFormat)});
   lista.ensureVisible(linha);
 }
 
@@ -100,7 +99,7 @@ Money cPrestContas::Lista_Prest(ListView& lista) {
     for (; !Tabela.eof(); Tabela.moveNext()) {
       adiciona_nota(lista, total);
     }
-    resultado = Convert::toMoney(Format(total, kFormatoValor));
+    resultado = Convert::toMoney(Format(total, kAmountFormat));
   });
   return resultado;
 }

@@ -26,10 +26,8 @@ constexpr int kSoRequisicao = 3;
 constexpr int kCampoRetirada = 9;
 constexpr int kCampoFechamento = 11;
 
-constexpr const char16_t* kData = u"dd/MM/yyyy";
 constexpr const char16_t* kEmpenho = u"00000/00";
 constexpr const char16_t* kProcesso = u"0000/00";
-constexpr const char16_t* kValor = u"#,##0.00";
 
 constexpr ColumnWidth centesimos(int largura) {
   return ColumnWidth::hundredthsOfMillimetre(largura);
@@ -38,15 +36,15 @@ constexpr ColumnWidth centesimos(int largura) {
 constexpr std::array<ColunaLista, cTodos::kColunasMovimento> kMovimento{{
     {"N°.", centesimos(2293), Qt::AlignLeft, 0, kProcesso},
     {"EMPENHO", centesimos(2117), Qt::AlignLeft, 7, kEmpenho, true},
-    {"DATA", centesimos(2646), Qt::AlignLeft, 1, kData},
+    {"DATA", centesimos(2646), Qt::AlignLeft, 1, kDateFormat},
     {"SECRETARIA", centesimos(4410), Qt::AlignLeft, 4},
     {"RESPONSAVEL", centesimos(4410), Qt::AlignLeft, 5},
-    {"VALOR", centesimos(1940), Qt::AlignRight, 2, kValor},
+    {"VALOR", centesimos(1940), Qt::AlignRight, 2, kAmountFormat},
     {"TIPO", centesimos(3528), Qt::AlignLeft, 6},
-    {"ABERTURA", centesimos(2646), Qt::AlignLeft, 8, kData},
-    {"RETIRADA", centesimos(2646), Qt::AlignLeft, kCampoRetirada, kData},
-    {"FECHAR EM", centesimos(2646), Qt::AlignLeft, 10, kData},
-    {"FECHAMENTO", centesimos(2646), Qt::AlignLeft, kCampoFechamento, kData},
+    {"ABERTURA", centesimos(2646), Qt::AlignLeft, 8, kDateFormat},
+    {"RETIRADA", centesimos(2646), Qt::AlignLeft, kCampoRetirada, kDateFormat},
+    {"FECHAR EM", centesimos(2646), Qt::AlignLeft, 10, kDateFormat},
+    {"FECHAMENTO", centesimos(2646), Qt::AlignLeft, kCampoFechamento, kDateFormat},
     {"DIAS", centesimos(1411), Qt::AlignLeft, 12},
 }};
 
@@ -54,10 +52,10 @@ constexpr std::array<ColunaLista, cTodos::kColunasProcura> kProcura{{
     {"EMPENHO", ColumnWidth::pixels(80), Qt::AlignLeft, 0, kEmpenho},
     {"NOME", ColumnWidth::pixels(206), Qt::AlignLeft, 1},
     {"TIPO", ColumnWidth::pixels(116), Qt::AlignLeft, 2},
-    {"VALOR", ColumnWidth::pixels(90), Qt::AlignRight, 3, kValor},
-    {"RETIRADA", ColumnWidth::pixels(84), Qt::AlignLeft, 4, kData},
-    {"FECHAR EM", ColumnWidth::pixels(90), Qt::AlignLeft, 5, kData},
-    {"ABERTURA", ColumnWidth::pixels(84), Qt::AlignLeft, 6, kData},
+    {"VALOR", ColumnWidth::pixels(90), Qt::AlignRight, 3, kAmountFormat},
+    {"RETIRADA", ColumnWidth::pixels(84), Qt::AlignLeft, 4, kDateFormat},
+    {"FECHAR EM", ColumnWidth::pixels(90), Qt::AlignLeft, 5, kDateFormat},
+    {"ABERTURA", ColumnWidth::pixels(84), Qt::AlignLeft, 6, kDateFormat},
     {"FUNÇÃO", ColumnWidth::pixels(116), Qt::AlignLeft, 7},
     {"PROCESSO", ColumnWidth::pixels(84), Qt::AlignLeft, 8, kProcesso},
 }};
@@ -71,7 +69,7 @@ int icone(const Recordset& linhas, int linha) {
 
 void adiciona_vencendo(ListView& lista) {
   lista.addRow({Format(Tabela.field(0), kProcesso), Convert::toText(Tabela.field(1)),
-                Convert::toText(Tabela.field(2)), Format(Tabela.field(3), kData)});
+                Convert::toText(Tabela.field(2)), Format(Tabela.field(3), kDateFormat)});
 }
 
 void preenche(ListView& lista, const QString& comando, std::span<const ColunaLista> colunas,

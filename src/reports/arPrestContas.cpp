@@ -16,8 +16,6 @@ namespace {
 using reporting::Report;
 using reporting::SectionInstance;
 
-constexpr QStringView kValor = u"#,##0.00";
-
 // The rows after which a page is taken to be full. The list ends with the tenth page: the pages
 // behind it begin with the balance of the tenth.
 constexpr std::array<std::int16_t, 10> kUltimasDaPagina{41,  82,  123, 164, 205,
@@ -32,14 +30,14 @@ struct Andamento {
 void formata_cabecalho(SectionInstance& secao, const Andamento& andamento) {
   const Value saldo =
       andamento.linhas == 0 ? Value(secao.text(u"Field37")) : Value(andamento.transporte);
-  secao.setText(u"Field39", Format(saldo, kValor));
+  secao.setText(u"Field39", Format(saldo, kAmountFormat));
 }
 
 void formata_linha(SectionInstance& secao, Andamento& andamento) {
   andamento.linhas = Convert::toI16(andamento.linhas + 1);
   const Money saldo =
       Convert::toMoney(secao.text(u"Field37")) - Convert::toMoney(secao.text(u"Field35"));
-  secao.setText(u"Field36", Format(saldo, kValor));
+  secao.setText(u"Field36", Format(saldo, kAmountFormat));
   if (std::find(kUltimasDaPagina.begin(), kUltimasDaPagina.end(), andamento.linhas) !=
       kUltimasDaPagina.end()) {
     andamento.transporte = Convert::toMoney(secao.text(u"Field36"));

@@ -34,7 +34,7 @@ void formata_detalhe(SectionInstance& detalhe) {
     detalhe.setText(campo.segunda, texto);
     detalhe.setText(campo.terceira, texto);
   }
-  const QString valor = Format(detalhe.text(u"Field62"), u"#,##0.00");
+  const QString valor = Format(detalhe.text(u"Field62"), kAmountFormat);
   for (const QStringView campo : kValores) {
     detalhe.setText(campo, valor);
   }

@@ -28,7 +28,6 @@ bool pergunta_antes() {
 bool quer_numero_e_data() {
   return Dialogs::box(
              {.text = QStringLiteral("Deseja mostrar o número do processo e a data de abertura?"),
-              .title = QStringLiteral("Aviso"),
               .icon = BoxIcon::Exclamation,
               .buttons = {Button::Yes, Button::No},
               .defaultButton = Button::Yes}) == Button::Yes;

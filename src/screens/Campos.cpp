@@ -179,7 +179,7 @@ bool Avisa_valor_recusado(MoneyEdit& campo) {
     }
     return false;
   } catch (const RuntimeError&) {
-    Dialogs::exclamation(QStringLiteral("Valor inválido!!"), QStringLiteral("Aviso"));
+    Dialogs::exclamation(QStringLiteral("Valor inválido!!"));
     campo.setFocus();
     return true;
   }
@@ -205,7 +205,7 @@ bool DatasRecusadas::avisa() {
     return false;
   }
   DatePicker* const data = recusadas_.takeFirst();
-  Dialogs::exclamation(QStringLiteral("Data inválida!!"), QStringLiteral("Aviso"));
+  Dialogs::exclamation(QStringLiteral("Data inválida!!"));
   data->setFocus();
   return true;
 }

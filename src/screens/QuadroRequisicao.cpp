@@ -192,8 +192,7 @@ bool QuadroRequisicao::completo() {
     return false;
   }
   if (Campos_vazios(*window())) {
-    Dialogs::exclamation(QStringLiteral("Todos os campos obrigatórios devem ser preenchidos!!"),
-                         QStringLiteral("Aviso"));
+    Dialogs::exclamation(QStringLiteral("Todos os campos obrigatórios devem ser preenchidos!!"));
     return false;
   }
   return !Avisa_valor_recusado(*ui_->mskvalor);

@@ -31,8 +31,6 @@ std::int16_t AlteraEmpenho = 0;
 
 namespace {
 
-constexpr QStringView kData = u"dd/MM/yyyy";
-constexpr QStringView kValor = u"#,##0.00";
 const QString kZero = QStringLiteral("0,00");
 
 Value data_mostrada(const QString& texto) {
@@ -40,7 +38,7 @@ Value data_mostrada(const QString& texto) {
 }
 
 Value data_ou_vazia(const DatePicker& data) {
-  return data.isEmpty() ? Value() : Value(Format(data.value(), kData));
+  return data.isEmpty() ? Value() : Value(Format(data.value(), kDateFormat));
 }
 
 // What is pasted may be anything; a number with decimals would be rounded to another one.
@@ -174,7 +172,7 @@ void frmAdiantamento::dtpfechamento_Click() {
   adiantamento.processo = Convert::toI32(ui_->mskempenho->clipText());
   const Money diferenca = contexto_.mskvalor->value() - adiantamento.Soma_despesas();
   if (!diferenca.isNegative()) {
-    ui_->mskdev->setText(Format(diferenca, kValor));
+    ui_->mskdev->setText(Format(diferenca, kAmountFormat));
   }
 }
 
@@ -222,7 +220,7 @@ void frmAdiantamento::Command1_Click() {
 }
 
 bool frmAdiantamento::recusa(const QString& texto, QWidget* campo) {
-  Dialogs::exclamation(texto, QStringLiteral("Aviso"));
+  Dialogs::exclamation(texto);
   campo->setFocus();
   return false;
 }

@@ -16,7 +16,6 @@
 namespace quartela {
 namespace {
 
-const QString kAviso = QStringLiteral("Aviso");
 const QString kReativar = QStringLiteral("&Reativar Empenho");
 const QString kEncerrar = QStringLiteral("&Encerrar Empenho");
 const QString kIda = QStringLiteral("Prestação de &Contas >>");
@@ -26,7 +25,6 @@ constexpr QRgb kAmareloClaro = 0xFFFFFF80;
 
 bool pergunta(const QString& texto) {
   return Dialogs::box({.text = texto,
-                       .title = kAviso,
                        .icon = BoxIcon::Information,
                        .buttons = {Button::Yes, Button::No},
                        .defaultButton = Button::Yes}) == Button::Yes;
@@ -68,7 +66,7 @@ bool frmCadastro::falta_selecao() {
   if (!ui_->txtkey->text().isEmpty()) {
     return false;
   }
-  Dialogs::stop(QStringLiteral("Selecione um item da lista !!!"), kAviso);
+  Dialogs::stop(QStringLiteral("Selecione um item da lista !!!"));
   ui_->lstEmpenho->setFocus();
   return true;
 }
@@ -119,8 +117,7 @@ void frmCadastro::cmdexcluir_Click() {
   cAdiantamento& adiantamento = cAdiantamento::compartilhada();
   adiantamento.Empenho = Convert::toI32(sem_barra(Tag));
   if (!Dialogs::confirm(QStringLiteral("Confirma exclusão do Adiantamento: ") + Tag +
-                            QStringLiteral(" e seus relacionamentos."),
-                        kAviso)) {
+                        QStringLiteral(" e seus relacionamentos."))) {
     return;
   }
   adiantamento.Del_ad();
@@ -187,13 +184,13 @@ bool frmCadastro::encerra() {
 
 void frmCadastro::preenche_encerramento() {
   cAdiantamento& adiantamento = cAdiantamento::compartilhada();
-  const QString hoje = Format(Clock::today(), u"dd/MM/yyyy");
+  const QString hoje = Format(Clock::today(), kDateFormat);
   const Money sobra = campos().mskvalor->value() - Convert::toMoney(ui_->lblGasto->text());
   const bool tem_sobra = sobra > Money();
   adiantamento.Empenho = empenho_identificado();
   adiantamento.Fechamento = hoje;
   adiantamento.Datadev = tem_sobra ? hoje : QString();
-  adiantamento.Devolucao = tem_sobra ? Convert::toMoney(Format(sobra, u"#,##0.00")) : Money();
+  adiantamento.Devolucao = tem_sobra ? Convert::toMoney(Format(sobra, kAmountFormat)) : Money();
 }
 
 void frmCadastro::reativa() {

@@ -21,9 +21,7 @@
 namespace quartela {
 namespace {
 
-const QString kAviso = QStringLiteral("Aviso");
 const QString kZero = QStringLiteral("0,00");
-constexpr QStringView kValor = u"#,##0.00";
 constexpr QStringView kResumo = u"#,###.00";
 constexpr qsizetype kNumeroEmpenho = 8;  // "00000/00"
 constexpr QRgb kAzulValor = 0xFF0000FF;
@@ -147,7 +145,7 @@ void frmCadastro::Alterar() {
   cPrestContas& nota = cPrestContas::compartilhada();
   nota.Envia_dados(Le_numero(ui_->txtseq->text()));
   data_nota_ = nota.Data;
-  ui_->txtdatanota->setText(Format(nota.Data, u"dd/MM/yyyy"));
+  ui_->txtdatanota->setText(Format(nota.Data, kDateFormat));
   ui_->txtordem->setText(nota.Ordem);
   {
     const QSignalBlocker sem_busca(ui_->txtrazao_social);
@@ -170,7 +168,7 @@ void frmCadastro::Gravar() {
 
 bool frmCadastro::nota_aceita() {
   const auto recusa = [](const char* texto, QLineEdit* campo) {
-    Dialogs::exclamation(QString::fromUtf8(texto), kAviso);
+    Dialogs::exclamation(QString::fromUtf8(texto));
     campo->setFocus();
     campo->selectAll();
     return false;
@@ -224,7 +222,7 @@ void frmCadastro::grava_nota() {
 void frmCadastro::relista_notas() {
   cPrestContas& notas = cPrestContas::compartilhada();
   notas.processo = empenho_identificado();
-  mostra_gasto(Format(notas.Lista_Prest(*ui_->lstNotas), kValor));
+  mostra_gasto(Format(notas.Lista_Prest(*ui_->lstNotas), kAmountFormat));
 }
 
 void frmCadastro::Cancelar() {
@@ -240,13 +238,13 @@ void frmCadastro::mnExcluir_Click() {
   const int linha = ui_->lstNotas->selectedRow();
   const QString item = linha < 0 ? QString() : ui_->lstNotas->text(linha);
   if (item.isEmpty()) {
-    Dialogs::stop(QStringLiteral("Informe um item !!!"), kAviso);
+    Dialogs::stop(QStringLiteral("Informe um item !!!"));
     return;
   }
   if (!larga_nota()) {
     return;
   }
-  if (!Dialogs::confirm(QStringLiteral("Confirma exclusão deste item? - ") + item, kAviso)) {
+  if (!Dialogs::confirm(QStringLiteral("Confirma exclusão deste item? - ") + item)) {
     return;
   }
   cPrestContas& nota = cPrestContas::compartilhada();

@@ -17,12 +17,6 @@
 #include "ui_frmCadastro.h"
 
 namespace quartela {
-namespace {
-
-const QString kAviso = QStringLiteral("Aviso");
-
-}  // namespace
-
 void frmCadastro::Carrega_dados() {
   cRequisicao& requisicao = cRequisicao::compartilhada();
   requisicao.Envia_dados(Le_numero(QString(Tag_principal).remove(QLatin1Char('/'))));
@@ -88,7 +82,6 @@ bool frmCadastro::aceita_outro_aberto() {
     return true;
   }
   return Dialogs::box({.text = QStringLiteral("Há um adiantamento nesta finalidade já aberto !!!"),
-                       .title = kAviso,
                        .icon = BoxIcon::Exclamation,
                        .buttons = {Button::Ok, Button::Cancel},
                        .defaultButton = Button::Cancel}) == Button::Ok;

@@ -19,9 +19,6 @@
 namespace quartela {
 namespace {
 
-const QString kAviso = QStringLiteral("Aviso");
-constexpr QStringView kValor = u"#,##0.00";
-constexpr QStringView kData = u"dd/MM/yyyy";
 constexpr qsizetype kNumeroEmpenho = 8;
 constexpr int kColunasExportadas = 4;
 
@@ -33,7 +30,7 @@ QString hoje_por_extenso() {
 
 QString valor_positivo(const QString& texto) {
   const Money valor = Convert::toMoney(texto);
-  return Format(valor > Money() ? valor : Money(), kValor);
+  return Format(valor > Money() ? valor : Money(), kAmountFormat);
 }
 
 }  // namespace
@@ -77,7 +74,7 @@ bool frmCadastro::imprime_guia() {
     const int linha = lista.selectedRow();
     const QString vencimento =
         Format(lista.subItem(linha, cAdiantamento::kFecharEm), u"dd/mm/YYYY");
-    const QString devolvido = Format(Convert::toMoney(ui_->lblNao_aplicado->text()), kValor);
+    const QString devolvido = Format(Convert::toMoney(ui_->lblNao_aplicado->text()), kAmountFormat);
     const QString centavos = QString(devolvido).remove(QLatin1Char(',')).remove(QLatin1Char('.'));
     imprime({.relatorio = Relatorio::Guia,
              .comando = {},
@@ -109,8 +106,7 @@ void frmCadastro::Exporta() {
   try {
     exporta_para(arquivo);
   } catch (const RuntimeError& erro) {
-    Dialogs::stop(QStringLiteral("Erro ao exportar registro! Erro n.º %1").arg(erro.number()),
-                  kAviso);
+    Dialogs::stop(QStringLiteral("Erro ao exportar registro! Erro n.º %1").arg(erro.number()));
   }
   ui_->pbr->setValue(0);
   ui_->pbr->hide();
@@ -127,7 +123,7 @@ void frmCadastro::exporta_para(const QString& arquivo) {
   replaceFile(arquivo, *linhas);
   ui_->Text1->setText(arquivo);
   if (tem_notas) {
-    Dialogs::information(QStringLiteral("Exportado com sucesso!!"), kAviso);
+    Dialogs::information(QStringLiteral("Exportado com sucesso!!"));
   }
 }
 

@@ -52,7 +52,7 @@ QString comando_notas(const QString& empenho) {
 
 frmTab3::frmTab3(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmTab3>()) {
   ui_->setupUi(this);
-  ui_->txtmomento->setText(Format(Clock::today(), u"dd/MM/yyyy"));
+  ui_->txtmomento->setText(Format(Clock::today(), kDateFormat));
   ui_->txthora->setText(Format(Clock::now(), u"HH:mm:ss"));
   mostra_aba(0);
   TabStrip1_Click(0);

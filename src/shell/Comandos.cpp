@@ -71,7 +71,7 @@ void configura(frmOficce&) {
 }
 
 void nao_disponivel(frmOficce&) {
-  Dialogs::information(QStringLiteral("Não disponivel no momento"), QStringLiteral("Aviso"));
+  Dialogs::information(QStringLiteral("Não disponivel no momento"));
 }
 
 constexpr std::array kGuias{

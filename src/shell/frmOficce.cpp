@@ -42,7 +42,6 @@ constexpr int kFolgaFiltro = 12;      // pixels
 constexpr int kAvisoDepoisDe = 1000;  // milliseconds
 constexpr std::int16_t kFiltroInicial = 1;
 constexpr std::int16_t kTemaAzul = 1;
-const QString kAviso = QStringLiteral("Aviso");
 
 QString texto(const char* utf8) {
   return QString::fromUtf8(utf8);
@@ -225,14 +224,13 @@ void frmOficce::na_linha(int linha, const QString& chave) {
 
 void frmOficce::Exclui_processo() {
   if (Tag_principal.isEmpty()) {
-    Dialogs::exclamation(QStringLiteral("Você deve selecionar um item!!"), kAviso);
+    Dialogs::exclamation(QStringLiteral("Você deve selecionar um item!!"));
     return;
   }
   cRequisicao& requisicao = cRequisicao::compartilhada();
   requisicao.Seq = Convert::toI32(QString(Tag_principal).remove(QLatin1Char('/')));
   if (Dialogs::confirm(QStringLiteral("Confirma exclusão do Cadastro: ") + Tag_principal +
-                           QStringLiteral(" e seus relacionamentos."),
-                       kAviso)) {
+                       QStringLiteral(" e seus relacionamentos."))) {
     requisicao.Del_req();
     Atualiza_grid();
   }

@@ -100,7 +100,7 @@ void MaskedBox::setText(const QString& text) {
   }
   int caret = 0;
   const QString shown = templated(text, &caret);
-  show(shown, caret, false);
+  display(shown, caret, false);
 }
 
 QString MaskedBox::clipText() const {
@@ -215,7 +215,7 @@ int MaskedBox::fill(QString& base, int from, const QString& typed) const {
   return nextSlot(at);
 }
 
-void MaskedBox::show(const QString& shown, int caret, bool edited) {
+void MaskedBox::display(const QString& shown, int caret, bool edited) {
   const bool changed = shown != text();
   if (changed) {
     QLineEdit::setText(shown);
@@ -243,7 +243,7 @@ void MaskedBox::type(const QString& characters) {
   const int caret = fill(shown, from, characters);
   const bool steps = caret != nextSlot(from) && emptied == text();
   if (steps || shown != emptied) {
-    show(shown, caret, true);
+    display(shown, caret, true);
   }
 }
 
@@ -258,7 +258,7 @@ void MaskedBox::backspace() {
     shown[slot] = kPrompt;
     caret = slot;
   }
-  show(shown, caret, true);
+  display(shown, caret, true);
 }
 
 void MaskedBox::deleteForward() {
@@ -271,14 +271,14 @@ void MaskedBox::deleteForward() {
     }
     shown[caret] = kPrompt;
   }
-  show(shown, caret, true);
+  display(shown, caret, true);
 }
 
 void MaskedBox::emptyFrom(int at) {
   QString shown = text();
   const QString empty = blank();
   shown.replace(at, shown.size() - at, empty.mid(at));
-  show(shown, std::max(at, nextSlot(0)), true);
+  display(shown, std::max(at, nextSlot(0)), true);
 }
 
 bool MaskedBox::pressEraseKey(QKeyEvent* event) {

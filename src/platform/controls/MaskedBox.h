@@ -86,7 +86,7 @@ class MaskedBox : public QLineEdit {
   void emptyFrom(int at);
   // Gives where the selection began, or the caret; the selection's positions are emptied.
   int emptySelection(QString& shown) const;
-  void show(const QString& shown, int caret, bool edited);
+  void display(const QString& shown, int caret, bool edited);
   void putCaretAtFirstSlot();
 
   QString mask_;

@@ -44,7 +44,7 @@ QString StatusBar::panelText(int number) const {
 
 void StatusBar::showMoment() {
   const DateTime now = Clock::now();
-  panel(kDate).setText(Format(now, u"dd/MM/yyyy"));
+  panel(kDate).setText(Format(now, kDateFormat));
   panel(kTime).setText(Format(now, u"hh:mm"));
 }
 

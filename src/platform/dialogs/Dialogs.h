@@ -66,7 +66,7 @@ bool printer(QPrinter& printer);
 void information(const QString& text, const QString& title = kUsualTitle);
 void exclamation(const QString& text, const QString& title = kUsualTitle);
 void stop(const QString& text, const QString& title = kUsualTitle);
-bool confirm(const QString& text, const QString& title);
+bool confirm(const QString& text, const QString& title = kUsualTitle);
 
 // Puts `host` in the place of the toolkit's dialogs, or, with null, the toolkit's back. Not owned.
 // Gives the host that it takes the place of, null for the toolkit's.

@@ -167,7 +167,7 @@ QString toText(const Value& value) {
     case ValueType::I32:
       return QString::number(value.i32());
     case ValueType::DateTime:
-      return Format(value, value.dateTime().hasTime() ? u"dd/MM/yyyy hh:mm:ss" : u"dd/MM/yyyy");
+      return Format(value, value.dateTime().hasTime() ? u"dd/MM/yyyy hh:mm:ss" : kDateFormat);
     default:
       return textOf(decimalOf(value));
   }

@@ -21,6 +21,10 @@
 
 namespace quartela {
 
+// The formats of dates and of amounts that the lists, the windows and the papers share.
+inline constexpr const char16_t* kDateFormat = u"dd/MM/yyyy";
+inline constexpr const char16_t* kAmountFormat = u"#,##0.00";
+
 QString Format(const Value& value, QStringView format);
 
 }  // namespace quartela
