@@ -7,8 +7,11 @@
 #include <QTest>
 
 #include "foundation/Banco.h"
+#include "platform/controls/ListView.h"
 #include "platform/controls/ScreenPointer.h"
+#include "platform/controls/StatusBar.h"
 #include "platform/values/RuntimeError.h"
+#include "records/cTodos.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
@@ -293,6 +296,12 @@ class cRequisicaoTest : public QObject {
   void numbersAboveSixteenBitsAreKeptAndListed() {
     saveQuietly(sample(32'814));
     QCOMPARE(office_->ask("SELECT SEQ FROM Requisicao"), QStringLiteral("32814"));
+    ListView list;
+    StatusBar bar;
+    cTodos::prepara_movimento(list);
+    cTodos().Lista_Movimento(list, 0, bar);
+    QCOMPARE(list.count(), 1);
+    QCOMPARE(list.subItem(0, cTodos::kNumero), QStringLiteral("0328/14"));
   }
 
   void theSharedInstanceIsOne() {

@@ -30,15 +30,13 @@ class PageView::Sheet : public QWidget {
     setAttribute(Qt::WA_OpaquePaintEvent);
   }
 
-  QString emptyText;
-
  protected:
   void paintEvent(QPaintEvent* event) override {
     QPainter painter(this);
     painter.fillRect(event->rect(), QColor(kDesk));
     if (view_.page_ < 0) {
       painter.setPen(Qt::white);
-      painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, emptyText);
+      painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, accessibleName());
       return;
     }
     const QRectF paper(QPointF(kBorder, kBorder), view_.paperPixels() * view_.scale_);
@@ -85,7 +83,7 @@ void PageView::showPage(std::shared_ptr<const Document> document, int page) {
 }
 
 void PageView::setEmptyText(const QString& text) {
-  sheet_->emptyText = text;
+  sheet_->setAccessibleName(text);
   sheet_->update();
 }
 

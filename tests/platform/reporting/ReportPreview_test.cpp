@@ -15,6 +15,7 @@
 #include <QWheelEvent>
 
 #include "platform/reporting/PagePainter.h"
+#include "platform/reporting/PageView.h"
 #include "tests/platform/reporting/SampleReport.h"
 #include "tests/support/TestMain.h"
 
@@ -619,6 +620,19 @@ void ReportPreviewTest::saysThatThereIsNothing() {
   preview.show();
   QTRY_COMPARE(report->state(), Report::State::Complete);
   QCOMPARE(preview.page(), 0);
+  QWidget* const sheet = preview.findChild<PageView*>()->widget();
+  const QString words = QStringLiteral("Não há dados para mostrar.");
+  QCOMPARE(sheet->accessibleName(), words);
+  const QImage seen = sheet->grab().toImage().convertToFormat(QImage::Format_RGB32);
+  QImage told(seen.size(), QImage::Format_RGB32);
+  told.fill(seen.pixel(0, 0));
+  QVERIFY(seen != told);
+  QPainter painter(&told);
+  painter.setFont(sheet->font());
+  painter.setPen(Qt::white);
+  painter.drawText(told.rect(), Qt::AlignCenter, words);
+  painter.end();
+  QCOMPARE(seen, told);
   QVERIFY(!preview.findChild<QToolButton*>(QStringLiteral("button-print"))->isEnabled());
   QTest::keyClick(&preview, Qt::Key_End, Qt::ControlModifier);
   QCOMPARE(preview.page(), 0);
