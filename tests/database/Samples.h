@@ -16,6 +16,8 @@ inline constexpr int kYear = 2014;
 void makeSampleDatabase(const QString& path);
 
 struct Samples {
+  // No keys: enough for the wording of statements.
+  Samples() = default;
   explicit Samples(PlainDatabase& plain);
 
   int process = 0;          // closed, with the most notes

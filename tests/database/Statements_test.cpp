@@ -14,6 +14,7 @@
 #include "tests/database/PlainDatabase.h"
 #include "tests/database/Samples.h"
 #include "tests/database/statements/StatementCase.h"
+#include "tests/support/Errors.h"
 #include "tests/support/SqliteSession.h"
 #include "tests/support/TestMain.h"
 
@@ -134,16 +135,6 @@ QMap<QString, int> countsOfTables(PlainDatabase& plain) {
     counts[table] = plain.number("SELECT count(*) FROM " + table.toUtf8());
   }
   return counts;
-}
-
-template <typename Act>
-int errorOf(Act act) {
-  try {
-    act();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
 }
 
 QString connectionText(const QString& path) {
@@ -401,7 +392,7 @@ void StatementsTest::newKeyIsAnswered() {
   row.update();
   row.close();
   Recordset key;
-  key.open("SELECT @@IDENTITY", connection_);
+  key.open(kNewKey, connection_);
   QCOMPARE(key.recordCount(), 1);
   QCOMPARE(key.field(0).i32(), before + 1);
 }

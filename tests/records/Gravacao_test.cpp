@@ -205,8 +205,8 @@ class GravacaoTest : public QObject {
   // A class that browses keeps its rows open and is where it was.
   void writesThroughRowsOfItsOwn() {
     Recordset rows;
-    rows.open("Select * from PrestContas ORDER BY SEQ", *Conexao, CursorType::Static,
-              LockType::Pessimistic);
+    rows.open("Select * from PrestContas Where PROCESSO = 50014 Order by DATA, SEQ;", *Conexao,
+              CursorType::Static, LockType::Pessimistic);
     rows.moveNext();
     Grava_linha(kAlteracao, {.tabela = "PrestContas",
                              .selecao = {},

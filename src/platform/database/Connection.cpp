@@ -1,5 +1,6 @@
 #include "platform/database/Connection.h"
 
+#include "platform/database/StatementListener.h"
 #include "platform/database/dialect/Dialect.h"
 #include "platform/database/engines/Engine.h"
 #include "platform/values/RuntimeError.h"
@@ -28,6 +29,7 @@ int Connection::execute(const QString& text) {
   if (statement.kind() != dialect::StatementKind::Delete) {
     throw RuntimeError(ErrorNumber::InvalidStatement);
   }
+  tellOfStatement(text);
   return engine().remove(statement);
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/database/Connection.h"
 #include "platform/database/RecordsetData.h"
+#include "platform/database/StatementListener.h"
 #include "platform/database/dialect/CompleteOrder.h"
 #include "platform/values/Convert.h"
 #include "platform/values/RuntimeError.h"
@@ -52,6 +53,7 @@ void Recordset::open(const QString& source, Connection& connection, CursorType, 
   if (statement.kind() != dialect::StatementKind::Select) {
     throw RuntimeError(ErrorNumber::InvalidStatement);
   }
+  tellOfStatement(source);
   dialect::completeOrder(statement.bound);
   auto data = std::make_unique<Data>(engine, std::move(statement.result), lock);
   const bool toAddTo = lock == LockType::Pessimistic && isTableName(source, engine.catalogue());

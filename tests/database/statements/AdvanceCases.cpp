@@ -47,6 +47,10 @@ void addRecord(StatementCases& cases, const Samples& samples) {
       .statement =
           "select * from Adiantamento WHERE Adiantamento.EMPENHO =" + digits(samples.commitment),
       .expected = "SELECT * FROM Adiantamento WHERE EMPENHO = " + plain(samples.commitment)};
+  cases << StatementCase{
+      .name = "advance: those that go along with a requisition",
+      .statement = "SELECT * FROM Adiantamento WHERE PROCESSO = " + digits(samples.process),
+      .expected = "SELECT * FROM Adiantamento WHERE PROCESSO = " + plain(samples.process)};
   cases << StatementCase{.name = "advance: of a closed process",
                          .statement = commitmentsOf(samples.process),
                          .expected = commitmentsOfPlain(samples.process)};

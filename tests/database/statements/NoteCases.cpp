@@ -35,6 +35,10 @@ void addNoteCases(StatementCases& cases, const Samples& samples) {
       .name = "note: one to load",
       .statement = "Select * From PrestContas WHERE SEQ =" + digits(samples.note),
       .expected = "SELECT * FROM PrestContas WHERE SEQ = " + plain(samples.note)};
+  cases << StatementCase{
+      .name = "note: those that go along with an empenho",
+      .statement = "SELECT * FROM PrestContas WHERE PROCESSO = " + digits(samples.commitment),
+      .expected = "SELECT * FROM PrestContas WHERE PROCESSO = " + plain(samples.commitment)};
   cases << StatementCase{.name = "note: of an empenho",
                          .statement = notesOf(samples.commitment),
                          .expected = notesOfPlain(samples.commitment),

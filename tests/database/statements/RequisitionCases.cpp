@@ -37,6 +37,13 @@ void addRecord(StatementCases& cases, const Samples& samples) {
   cases << StatementCase{.name = "requisition: the table's bare name",
                          .statement = "Requisicao",
                          .expected = "SELECT * FROM Requisicao"};
+  cases << StatementCase{.name = "requisition: the numbers that are taken",
+                         .statement = "SELECT SEQ FROM Requisicao",
+                         .expected = "SELECT SEQ FROM Requisicao"};
+  cases << StatementCase{
+      .name = "requisition: whether a number is taken",
+      .statement = "SELECT SEQ FROM Requisicao WHERE SEQ =" + digits(samples.process),
+      .expected = "SELECT SEQ FROM Requisicao WHERE SEQ = " + plain(samples.process)};
   cases << StatementCase{
       .name = "requisition: one to alter",
       .statement = "Select * from Requisicao WHERE SEQ =" + digits(samples.process),

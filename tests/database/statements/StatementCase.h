@@ -39,6 +39,9 @@ struct StatementCase {
 
 using StatementCases = QList<StatementCase>;
 
+// The key of the row added last, which has a test of its own: no table has it.
+inline const QString kNewKey = QStringLiteral("SELECT @@IDENTITY");
+
 // A DELETE, and for each table that loses rows a count of those that must go.
 struct DeletionCase {
   struct Loss {

@@ -11,6 +11,7 @@
 #include "foundation/Caminhos.h"
 #include "foundation/Ini.h"
 #include "platform/files/ProgramFolder.h"
+#include "tests/support/office/KnownStatements.h"
 
 namespace quartela::test {
 namespace {
@@ -78,7 +79,7 @@ class Database {
 
 }  // namespace
 
-Office::Office(Data data) {
+Office::Office(Data data) : statements_(requireKnown) {
   setProgramFolder(folder_.path());
   write(config(),
         "[Diretorio]\ncaminho=Banco.mdb\ncaminho2=Outro.mdb\ncaminhogeral=Banco.mdb\n"

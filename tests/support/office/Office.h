@@ -1,9 +1,12 @@
 // A town hall's office for one test: a fresh program folder with its settings, counter, passwords
-// and a database of its own, open as Conexao.
+// and a database of its own, open as Conexao. A statement sent meanwhile that is in no table of
+// tests/database/statements fails the test.
 #pragma once
 
 #include <QString>
 #include <QTemporaryDir>
+
+#include "platform/database/StatementListener.h"
 
 namespace quartela::test {
 
@@ -34,6 +37,7 @@ class Office {
 
  private:
   QTemporaryDir folder_;
+  StatementListener statements_;
 };
 
 }  // namespace quartela::test

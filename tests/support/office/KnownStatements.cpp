@@ -1,0 +1,78 @@
+#include "tests/support/office/KnownStatements.h"
+
+#include <QSet>
+#include <QTest>
+
+#include "platform/database/dialect/Lexer.h"
+#include "tests/database/statements/StatementCase.h"
+
+namespace quartela::test {
+namespace {
+
+using dialect::Token;
+using dialect::TokenKind;
+
+bool isNumber(const Token& token) {
+  return token.kind == TokenKind::Integer || token.kind == TokenKind::Decimal;
+}
+
+bool isLiteral(const Token& token) {
+  return isNumber(token) || token.kind == TokenKind::Text || token.kind == TokenKind::Date;
+}
+
+QSet<QString> knownShapes() {
+  const Samples noRows;
+  StatementCases selects;
+  addCommonCases(selects, noRows);
+  addRequisitionCases(selects, noRows);
+  addAdvanceCases(selects, noRows);
+  addNoteCases(selects, noRows);
+  addListCases(selects, noRows);
+  addMasterDataCases(selects, noRows);
+  addSheetCases(selects, noRows);
+  addRequestCases(selects, noRows);
+  addReportCases(selects, noRows);
+  DeletionCases deletions;
+  addDeletionCases(deletions, noRows);
+  QSet<QString> shapes{shapeOf(kNewKey)};
+  for (const StatementCase& one : selects) {
+    shapes << shapeOf(one.statement);
+  }
+  for (const DeletionCase& one : deletions) {
+    shapes << shapeOf(one.statement);
+  }
+  return shapes;
+}
+
+}  // namespace
+
+QString shapeOf(const QString& statement) {
+  dialect::Lexer lexer(statement);
+  QStringList words;
+  bool negated = false;
+  for (Token token = lexer.next(); token.kind != TokenKind::End; token = lexer.next()) {
+    if (negated && isNumber(token)) {
+      words.removeLast();
+    }
+    negated = token.kind == TokenKind::Minus;
+    if (token.kind != TokenKind::Semicolon) {
+      words << (isLiteral(token) ? QStringLiteral("?") : token.text.toString().toUpper());
+    }
+  }
+  return words.join(QLatin1Char(' '));
+}
+
+bool isKnownStatement(const QString& statement) {
+  static const QSet<QString> kShapes = knownShapes();
+  return kShapes.contains(shapeOf(statement));
+}
+
+void requireKnown(const QString& statement) {
+  if (!isKnownStatement(statement)) {
+    QTest::qFail(
+        qPrintable(QStringLiteral("in no table of tests/database/statements: ") + statement),
+        __FILE__, __LINE__);
+  }
+}
+
+}  // namespace quartela::test
