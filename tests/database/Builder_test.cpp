@@ -10,27 +10,14 @@
 #include "database/RowWriter.h"
 #include "platform/values/RuntimeError.h"
 #include "tests/database/PlainDatabase.h"
+#include "tests/support/Errors.h"
+#include "tests/support/Files.h"
 #include "tests/support/Folders.h"
 #include "tests/support/TestMain.h"
 
 namespace quartela::test {
 
 namespace {
-
-template <typename Act>
-int errorOf(Act act) {
-  try {
-    act();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
-
-QByteArray fileText(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 const QString kFolder = quartela::test::inSource(QStringLiteral("database/"));
 
@@ -99,7 +86,7 @@ void BuilderTest::storedQueriesAreTheFiles() {
   QCOMPARE(queries.rows.size(), 8);
   QCOMPARE(files.size(), 8);
   for (const QStringList& query : queries.rows) {
-    const QByteArray text = fileText(kFolder + "stored-queries/" + query[0] + ".sql");
+    const QByteArray text = contentOf(kFolder + "stored-queries/" + query[0] + ".sql");
     QCOMPARE(query[1].toUtf8(), text);
   }
 }
@@ -140,7 +127,7 @@ void BuilderTest::schemaLoadsByItself() {
   const QString other = folder_->filePath("outro.mdb");
   QVERIFY(QFile(other).open(QIODevice::WriteOnly));
   PlainDatabase loaded(other);
-  QCOMPARE(loaded.run(fileText(kFolder + "schema.sql")), SQLITE_OK);
+  QCOMPARE(loaded.run(contentOf(kFolder + "schema.sql")), SQLITE_OK);
   PlainDatabase built(path());
   const QByteArray schema = "SELECT type, name, sql FROM sqlite_schema ORDER BY type, name";
   QCOMPARE(built.query(schema).rows, loaded.query(schema).rows);
@@ -153,7 +140,7 @@ void BuilderTest::existingFileIsLeftAlone() {
   file.write("mine");
   file.close();
   QCOMPARE(errorOf([this] { database::createEmptyDatabase(path()); }), 75);
-  QCOMPARE(fileText(path()), QByteArray("mine"));
+  QCOMPARE(contentOf(path()), QByteArray("mine"));
 }
 
 void BuilderTest::folderThatDoesNotExist() {

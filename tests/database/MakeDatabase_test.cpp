@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "tests/database/PlainDatabase.h"
+#include "tests/support/Files.h"
 #include "tests/support/Folders.h"
 #include "tests/support/TestMain.h"
 
@@ -84,10 +85,9 @@ void MakeDatabaseTest::freshDeliveryCountsFromZero() {
   QCOMPARE(QProcess::execute(inSource(QStringLiteral("packaging/lay-out")),
                              {build.path(), file("delivery")}),
            0);
-  QFile counter(file("delivery/Number.Ini"));
-  QVERIFY(counter.open(QIODevice::ReadOnly));
   const int year = QDate::currentDate().year();
-  QCOMPARE(counter.readAll(), "[Contador]\r\nano=" + QByteArray::number(year) + "\r\nnumber=0\r\n");
+  QCOMPARE(contentOf(file("delivery/Number.Ini")),
+           "[Contador]\r\nano=" + QByteArray::number(year) + "\r\nnumber=0\r\n");
   PlainDatabase demonstration(file("delivery/Demonstracao.mdb"));
   const QByteArray thisYear =
       "SELECT count(*) FROM Requisicao WHERE SEQ % 100 = " + QByteArray::number(year % 100);

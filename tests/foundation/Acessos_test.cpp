@@ -18,6 +18,7 @@
 #include "platform/controls/OpenForms.h"
 #include "platform/database/engines/sqlite/Session.h"
 #include "platform/values/Clock.h"
+#include "tests/support/Files.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/office/Office.h"
@@ -126,8 +127,7 @@ class AcessosTest : public QObject {
     ::dup2(kept, 2);
     ::close(kept);
     sqlite3_close(other);
-    QFile file(errors.fileName());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return test::contentOf(errors.fileName());
   }
 
   // The line of a fresh login window; null when it shows none.

@@ -14,6 +14,7 @@
 #include "foundation/frmParametros.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Files.h"
 #include "tests/support/FirstDelivery.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
@@ -108,7 +109,7 @@ class BancoTest : public QObject {
         {.text = test::kAnything + word + test::kAnything, .icon = BoxIcon::Exclamation});
     Abre_banco();
     QVERIFY(UmaJanela<frmParametros>::aberta() != nullptr);
-    QCOMPARE(read(path), content);
+    QCOMPARE(test::contentOf(path), content);
     QCOMPARE(QDir(office_->file(QString())).entryList({QStringLiteral("outro*")}),
              QStringList{"outro.mdb"});
   }
@@ -125,13 +126,13 @@ class BancoTest : public QObject {
 
   void aFileOfANewerProgramIsToldUnchangedAndShowsTheSettings() {
     office_->run("PRAGMA user_version = 99");
-    const QByteArray before = read(office_->file(QStringLiteral("Banco.mdb")));
+    const QByteArray before = test::contentOf(office_->file(QStringLiteral("Banco.mdb")));
     test::ScriptedDialogs dialogs;
     dialogs.expectBox({.text = test::kAnything + QStringLiteral("é da versão 99") + test::kAnything,
                        .icon = BoxIcon::Exclamation});
     Abre_banco();
     QVERIFY(UmaJanela<frmParametros>::aberta() != nullptr);
-    QCOMPARE(read(office_->file(QStringLiteral("Banco.mdb"))), before);
+    QCOMPARE(test::contentOf(office_->file(QStringLiteral("Banco.mdb"))), before);
   }
 
   // As the first delivery left it: the program goes on with the file and keeps a copy of what it
@@ -173,10 +174,6 @@ class BancoTest : public QObject {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(content), content.size());
-  }
-  static QByteArray read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
   }
 
   std::unique_ptr<test::Office> office_;

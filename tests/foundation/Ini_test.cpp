@@ -6,6 +6,7 @@
 
 #include "platform/files/ProgramFolder.h"
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -14,11 +15,6 @@ namespace {
 
 const QString kSecao = QStringLiteral("Diretorio");
 const QString kChave = QStringLiteral("caminho");
-
-QByteArray conteudo(const QString& arquivo) {
-  QFile file(arquivo);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
 
 }  // namespace
 
@@ -61,7 +57,7 @@ void IniTest::readsAndWrites() {
   QCOMPARE(Le_ini(kSecao, kChave, config()), QStringLiteral("C:\\dados\\Banco.mdb"));
   Grava_ini(kSecao, kChave, QString(), config());
   QCOMPARE(Le_ini(kSecao, kChave, config()), QString());
-  QCOMPARE(conteudo(config()), QByteArray("[Diretorio]\r\ncaminho=\r\n"));
+  QCOMPARE(test::contentOf(config()), QByteArray("[Diretorio]\r\ncaminho=\r\n"));
 }
 
 void IniTest::absentReadsAsEmpty() {
@@ -88,7 +84,7 @@ void IniTest::matchesWithoutRegardToCase() {
   QCOMPARE(Le_ini(QStringLiteral("contador"), QStringLiteral("ANO"), config()),
            QStringLiteral("2014"));
   Grava_ini(QStringLiteral("CONTADOR"), QStringLiteral("Ano"), QStringLiteral("2015"), config());
-  QCOMPARE(conteudo(config()), QByteArray("[Contador]\r\nano=2015\r\n"));
+  QCOMPARE(test::contentOf(config()), QByteArray("[Contador]\r\nano=2015\r\n"));
 }
 
 void IniTest::cutsAt255Characters() {
@@ -114,7 +110,7 @@ void IniTest::leavesTheRestOfTheFileAlone() {
   file.close();
   Grava_ini(QStringLiteral("Financas"), QStringLiteral("cargo"), QStringLiteral("Secretário"),
             config());
-  QCOMPARE(conteudo(config()),
+  QCOMPARE(test::contentOf(config()),
            QByteArray("; Finan\xE7"
                       "as\r\n[Financas]\nnome = Jos\xE9\r\ncargo=Secret\xE1rio"));
   QCOMPARE(Le_ini(QStringLiteral("FINANCAS"), QStringLiteral("nome"), config()),
@@ -133,7 +129,7 @@ void IniTest::tellsWhatItCannotWrite_data() {
 void IniTest::tellsWhatItCannotWrite() {
   QFETCH(QString, arquivo);
   Grava_ini(kSecao, kChave, QStringLiteral("x"), config());
-  const QByteArray antes = conteudo(config());
+  const QByteArray antes = test::contentOf(config());
   int numero = 0;
   try {
     Grava_ini(kSecao, kChave, QStringLiteral("y"), arquivo);
@@ -141,7 +137,7 @@ void IniTest::tellsWhatItCannotWrite() {
     numero = erro.number();
   }
   QTEST(numero, "numero");
-  QCOMPARE(conteudo(config()), antes);
+  QCOMPARE(test::contentOf(config()), antes);
 }
 
 QUARTELA_TEST_MAIN(IniTest)

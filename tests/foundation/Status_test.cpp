@@ -8,6 +8,7 @@
 #include "foundation/Estilo.h"
 #include "foundation/UmaJanela.h"
 #include "platform/controls/AviPlayer.h"
+#include "tests/support/Files.h"
 #include "tests/support/Folders.h"
 #include "tests/support/FreshFolder.h"
 #include "tests/support/TestMain.h"
@@ -144,8 +145,8 @@ class Status_test : public QObject {
 
  private:
   static QByteArray delivered() {
-    QFile file(quartela::test::inSource(QStringLiteral("resources/delivery/FILEDELR.avi")));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return quartela::test::contentOf(
+        quartela::test::inSource(QStringLiteral("resources/delivery/FILEDELR.avi")));
   }
 
   std::unique_ptr<FreshFolder> folder_;

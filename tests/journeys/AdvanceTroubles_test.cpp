@@ -4,6 +4,7 @@
 
 #include "tests/journeys/ProcessRoad.h"
 #include "tests/platform/files/OrdinaryUser.h"
+#include "tests/support/Files.h"
 #include "tests/support/PdfTools.h"
 #include "tests/support/office/OfficeMain.h"
 
@@ -188,9 +189,7 @@ class AdvanceTroublesTest : public QObject {
     const QString good = road_->file("notas.txt");
     road_->dialogs.expectSaveFile(test::exportRequest(), good);
     road_->keys.answer('X', {{boxes::told("Exportado com sucesso!!"), Button::Ok}});
-    QFile file(good);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("0001;00500/14;05/11/2014;17;POSTO;300,00\r\n"));
+    QCOMPARE(test::contentOf(good), QByteArray("0001;00500/14;05/11/2014;17;POSTO;300,00\r\n"));
   }
 
   // The preview stays, so that the document can go elsewhere.

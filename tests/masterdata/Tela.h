@@ -13,6 +13,7 @@
 #include "platform/controls/ComboBox.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/TwoPageTab.h"
+#include "tests/support/Hands.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/Typing.h"
 #include "tests/support/office/Boxes.h"
@@ -146,18 +147,8 @@ class Tela {
     QTest::keyClick(&field, Qt::Key_Delete);
     typeText(&field, text);
   }
-  // Moves to an entry with the arrow keys.
-  void pick(const char* name, const QString& entry) const {
-    auto& combo = at<ComboBox>(name);
-    combo.setFocus();
-    while (combo.currentIndex() > 0) {
-      QTest::keyClick(&combo, Qt::Key_Up);
-    }
-    for (int step = 0; step <= combo.count() && combo.text() != entry; ++step) {
-      QTest::keyClick(&combo, Qt::Key_Down);
-    }
-    QCOMPARE(combo.text(), entry);
-  }
+  // Takes an entry from the list that drops down.
+  void pick(const char* name, const QString& entry) const { pickItem(at<ComboBox>(name), entry); }
   // The menu key on the list, then the one command.
   void excludeByMenu() const {
     QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());

@@ -8,6 +8,7 @@
 #include "foundation/Ini.h"
 #include "platform/values/Clock.h"
 #include "tests/platform/files/NoMoreFiles.h"
+#include "tests/support/Files.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/office/Boxes.h"
@@ -221,10 +222,7 @@ class NumeracaoTest : public QObject {
   QString key(const char* name) const {
     return Le_ini(QStringLiteral("Contador"), QLatin1String(name), path());
   }
-  QByteArray read() const {
-    QFile file(path());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
+  QByteArray read() const { return test::contentOf(path()); }
 
   std::unique_ptr<QTemporaryDir> folder_;
 };

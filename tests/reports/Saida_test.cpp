@@ -213,9 +213,11 @@ void SaidaTest::withoutPrinterIs482() {
     QSKIP("there is a printer here");
   }
   const auto report = sample();
-  QString description;
-  QCOMPARE(test::errorOf([&] { Imprime_relatorio(*report, false); }, &description), 482);
-  QVERIFY2(description.contains(QStringLiteral("impressora")), qPrintable(description));
+  const auto error = test::raisedBy([&] { Imprime_relatorio(*report, false); });
+  QVERIFY(error);
+  QCOMPARE(error->number(), 482);
+  QVERIFY2(error->description().contains(QStringLiteral("impressora")),
+           qPrintable(error->description()));
 }
 
 void SaidaTest::deliversAsAsked_data() {

@@ -275,16 +275,14 @@ class arPrestacaoTest : public QObject {
   }
 
   void theEarlierAccountabilityIsNoMore() {
-    QString description;
-    QCOMPARE(test::errorOf(
-                 [] {
-                   imprime({.relatorio = Relatorio::PrestacaoAnterior,
-                            .comando = notesStatement(),
-                            .campos = {{"Data2", "SELECT 1"}, {"Field23", "agora"}}});
-                 },
-                 &description),
-             9);
-    QVERIFY2(description.contains("arPrestacao.Data2"), qPrintable(description));
+    const auto error = test::raisedBy([] {
+      imprime({.relatorio = Relatorio::PrestacaoAnterior,
+               .comando = notesStatement(),
+               .campos = {{"Data2", "SELECT 1"}, {"Field23", "agora"}}});
+    });
+    QVERIFY(error);
+    QCOMPARE(error->number(), 9);
+    QVERIFY2(error->description().contains("arPrestacao.Data2"), qPrintable(error->description()));
   }
 
  private:

@@ -15,6 +15,7 @@
 #include "platform/controls/ListView.h"
 #include "platform/controls/MoneyEdit.h"
 #include "records/Impressao.h"
+#include "tests/support/Hands.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/Typing.h"
 #include "tests/support/office/Boxes.h"
@@ -93,14 +94,7 @@ class RequisitionHands {
     }
   }
   // Drops the list down and picks the item with that text.
-  void pick(const char* name, const QString& item) const {
-    ComboBox* box = combo(name);
-    emit box->dropDown();
-    const int at = box->findText(item);
-    QVERIFY2(at >= 0, qPrintable(item));
-    box->setCurrentIndex(at);
-    emit box->picked(at);
-  }
+  void pick(const char* name, const QString& item) const { pickItem(*combo(name), item); }
   QStringList items(const char* name) const {
     QStringList texts;
     for (int item = 0; item < combo(name)->count(); ++item) {

@@ -6,6 +6,7 @@
 #include "foundation/Ini.h"
 #include "foundation/Leitura.h"
 #include "tests/screens/ProcessDesk.h"
+#include "tests/support/Files.h"
 #include "tests/support/office/OfficeMain.h"
 
 namespace quartela {
@@ -154,9 +155,9 @@ class frmCadastroSaidaTest : public QObject {
     dialogs.expectBox(boxes::told("Exportado com sucesso!!"));
     desk_->click("Command1_5");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(read(path), QByteArray("0001;00500/14;05/11/2014;17;POSTO;10,00\r\n"
-                                    "0002;00500/14;06/11/2014;45;MERCADO;30,00\r\n"
-                                    "0003;00500/14;07/11/2014;46;PADARIA;5,00\r\n"));
+    QCOMPARE(test::contentOf(path), QByteArray("0001;00500/14;05/11/2014;17;POSTO;10,00\r\n"
+                                               "0002;00500/14;06/11/2014;45;MERCADO;30,00\r\n"
+                                               "0003;00500/14;07/11/2014;46;PADARIA;5,00\r\n"));
     QCOMPARE(desk_->text("Text1"), path);
     QCOMPARE(desk_->child<QProgressBar>("pbr")->value(), 0);
     QCOMPARE(desk_->child<QProgressBar>("pbr")->maximum(), 3);
@@ -174,7 +175,7 @@ class frmCadastroSaidaTest : public QObject {
     dialogs.expectSaveFile(request(), path);
     dialogs.expectBox(boxes::told("Exportado com sucesso!!"));
     desk_->click("Command1_5");
-    QVERIFY(read(path).contains("A\xC7\xC3O"));
+    QVERIFY(test::contentOf(path).contains("A\xC7\xC3O"));
   }
 
   void withoutANameNothingIsExported() {
@@ -197,7 +198,7 @@ class frmCadastroSaidaTest : public QObject {
     desk_->click("Command1_5");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
     QVERIFY(QFileInfo::exists(path));
-    QCOMPARE(read(path), QByteArray());
+    QCOMPARE(test::contentOf(path), QByteArray());
   }
 
   void aFailedExportLeavesNoFile() {
@@ -224,16 +225,12 @@ class frmCadastroSaidaTest : public QObject {
     dialogs.expectBox(test::stopped("Erro ao exportar registro! Erro n.º 5"));
     desk_->click("Command1_5");
     QVERIFY2(dialogs.satisfied(), dialogs.report());
-    QCOMPARE(read(path), QByteArray("earlier"));
+    QCOMPARE(test::contentOf(path), QByteArray("earlier"));
   }
 
  private:
   static FileRequest request() {
     return {.title = "Salvar...", .filter = "TXT Files(*.txt)|*.txt|"};
-  }
-  static QByteArray read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
   static void write(const QString& path, const QByteArray& bytes) {
     QFile file(path);

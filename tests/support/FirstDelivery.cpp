@@ -7,6 +7,7 @@
 #include <QFile>
 #include <memory>
 
+#include "tests/support/Files.h"
 #include "tests/support/Folders.h"
 
 namespace quartela::test {
@@ -15,14 +16,6 @@ namespace {
 struct CloseDatabase {
   void operator()(sqlite3* database) const { sqlite3_close(database); }
 };
-
-QByteArray contentOf(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    qFatal("%s cannot be read", qPrintable(path));
-  }
-  return file.readAll();
-}
 
 void run(sqlite3* database, const QByteArray& sql) {
   if (sqlite3_exec(database, sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK) {

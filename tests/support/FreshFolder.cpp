@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "platform/files/ProgramFolder.h"
+#include "tests/support/Files.h"
 
 namespace quartela::test {
 
@@ -17,8 +18,7 @@ FreshFolder::~FreshFolder() {
 }
 
 QByteArray FreshFolder::read(const QString& name) const {
-  QFile file(path(name));
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  return contentOf(path(name));
 }
 
 void FreshFolder::write(const QString& name, const QByteArray& bytes) const {

@@ -8,6 +8,8 @@
 
 #include "platform/controls/AviFile.h"
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Errors.h"
+#include "tests/support/Files.h"
 #include "tests/support/Folders.h"
 #include "tests/support/TestMain.h"
 
@@ -98,17 +100,12 @@ QString pixels(const QImage& image) {
 }
 
 int errorOf(const QByteArray& bytes) {
-  try {
-    AviFile::parse(bytes);
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
+  return quartela::test::errorOf([&bytes] { AviFile::parse(bytes); });
 }
 
 QByteArray delivered() {
-  QFile file(quartela::test::inSource(QStringLiteral("resources/delivery/FILEDELR.avi")));
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  return quartela::test::contentOf(
+      quartela::test::inSource(QStringLiteral("resources/delivery/FILEDELR.avi")));
 }
 
 }  // namespace

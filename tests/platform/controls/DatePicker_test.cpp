@@ -13,24 +13,12 @@
 #include <functional>
 
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Errors.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
 
 Q_DECLARE_METATYPE(std::function<void(QLineEdit*)>)
-
-namespace {
-
-int errorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
-
-}  // namespace
 
 // The clock of the tests stands at 21/11/2014.
 class DatePickerTest : public QObject {
@@ -128,8 +116,8 @@ void DatePickerTest::takesDatesAndNull() {
 }
 
 void DatePickerTest::refusesWhatIsNoDate() {
-  QCOMPARE(errorOf([this] { picker_->setValue(Value("31/02/2014")); }), 13);
-  QCOMPARE(errorOf([this] { picker_->setValue(Value("")); }), 13);
+  QCOMPARE(test::errorOf([this] { picker_->setValue(Value("31/02/2014")); }), 13);
+  QCOMPARE(test::errorOf([this] { picker_->setValue(Value("")); }), 13);
   QVERIFY(picker_->isEmpty());
 }
 
@@ -261,7 +249,7 @@ void DatePickerTest::dayKeysNeedADate() {
 void DatePickerTest::notOptionalIsNeverEmpty() {
   picker_->setOptional(false);
   QCOMPARE(picker_->text(), "21/11/2014");
-  QCOMPARE(errorOf([this] { picker_->setValue({}); }), 13);
+  QCOMPARE(test::errorOf([this] { picker_->setValue({}); }), 13);
   picker_->selectAll();
   QTest::keyClick(picker_, Qt::Key_Delete);
   QCOMPARE(picker_->text(), "21/11/2014");
@@ -275,8 +263,8 @@ void DatePickerTest::notOptionalIsNeverEmpty() {
 void DatePickerTest::limits() {
   picker_->setMinimum(DateTime::of(1997, 1, 1));
   picker_->setMaximum(DateTime::of(2020, 12, 31));
-  QCOMPARE(errorOf([this] { picker_->setValue(DateTime::of(1996, 12, 31)); }), 6);
-  QCOMPARE(errorOf([this] { picker_->setValue(DateTime::of(2021, 1, 1)); }), 6);
+  QCOMPARE(test::errorOf([this] { picker_->setValue(DateTime::of(1996, 12, 31)); }), 6);
+  QCOMPARE(test::errorOf([this] { picker_->setValue(DateTime::of(2021, 1, 1)); }), 6);
   type("31121996");
   QVERIFY(picker_->isEmpty());
   type("01011997");

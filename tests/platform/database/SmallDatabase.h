@@ -11,6 +11,8 @@
 #include "platform/database/Connection.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Errors.h"
+#include "tests/support/Files.h"
 
 namespace quartela::test {
 
@@ -47,28 +49,6 @@ INSERT INTO Tarifa VALUES (2014, 'SP', 100), (2014, 'MG', 200), (2013, 'SP', 300
 INSERT INTO Consultas VALUES
   ('Sel_Req', 'SELECT Requisicao.SEQ, Requisicao.VALOR, Orgao.ORGAO FROM Requisicao INNER JOIN Orgao ON Requisicao.ORGAO = Orgao.IDORGAO');
 )";
-
-// The number of the error that `action` raises, 0 for none.
-template <typename Action>
-int errorOf(Action action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
-
-// Its words.
-template <typename Action>
-QString wordsOf(Action action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.description();
-  }
-  return {};
-}
 
 class PlainSql {
  public:
@@ -126,13 +106,5 @@ class SmallDatabase {
  private:
   QTemporaryDir folder_;
 };
-
-inline QByteArray contentOf(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    qFatal("%s cannot be read", qPrintable(path));
-  }
-  return file.readAll();
-}
 
 }  // namespace quartela::test

@@ -12,6 +12,7 @@
 #include <csignal>
 
 #include "tests/platform/files/OrdinaryUser.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -26,11 +27,6 @@ int write(const QString& path, const QByteArray& bytes) {
     return error.number();
   }
   return 0;
-}
-
-QByteArray content(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
 }
 
 // No file may become larger than `bytes`, as on a disk that is full.
@@ -93,11 +89,11 @@ void AtomicFileTest::init() {
 void AtomicFileTest::makesAndReplaces() {
   const QString file = path(QStringLiteral("Config.ini"));
   QCOMPARE(write(file, "one"), 0);
-  QCOMPARE(content(file), QByteArray("one"));
+  QCOMPARE(test::contentOf(file), QByteArray("one"));
   QCOMPARE(write(file, QByteArray(100'000, 'x')), 0);
-  QCOMPARE(content(file), QByteArray(100'000, 'x'));
+  QCOMPARE(test::contentOf(file), QByteArray(100'000, 'x'));
   QCOMPARE(write(file, {}), 0);
-  QCOMPARE(content(file), QByteArray());
+  QCOMPARE(test::contentOf(file), QByteArray());
   QCOMPARE(names(), QStringList{QStringLiteral("Config.ini")});
 }
 
@@ -119,7 +115,7 @@ void AtomicFileTest::writesThroughALink() {
   QVERIFY(QFile::link(file, link));
   QCOMPARE(write(link, "two"), 0);
   QVERIFY(QFileInfo(link).isSymLink());
-  QCOMPARE(content(file), QByteArray("two"));
+  QCOMPARE(test::contentOf(file), QByteArray("two"));
 }
 
 void AtomicFileTest::refusesPlaces_data() {
@@ -135,7 +131,7 @@ void AtomicFileTest::refusesPlaces() {
   QCOMPARE(write(path(QStringLiteral("file")), "one"), 0);
   QVERIFY(QDir(folder_->path()).mkdir(QStringLiteral("folder")));
   QTEST(write(path(name), "two"), "error");
-  QCOMPARE(content(path(QStringLiteral("file"))), QByteArray("one"));
+  QCOMPARE(test::contentOf(path(QStringLiteral("file"))), QByteArray("one"));
   QCOMPARE(names(), (QStringList{QStringLiteral("file"), QStringLiteral("folder")}));
 }
 
@@ -148,7 +144,7 @@ void AtomicFileTest::leavesTheFileWhenTheDiskTakesNoMore() {
     error = write(file, QByteArray(100'000, 'x'));
   }
   QCOMPARE(error, 75);
-  QCOMPARE(content(file), QByteArray("one"));
+  QCOMPARE(test::contentOf(file), QByteArray("one"));
   QCOMPARE(names(), QStringList{QStringLiteral("Config.ini")});
 }
 
@@ -161,7 +157,7 @@ void AtomicFileTest::respectsAReadOnlyFile() {
   QCOMPARE(write(file, "one"), 0);
   QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
   QCOMPARE(write(file, "two"), 70);
-  QCOMPARE(content(file), QByteArray("one"));
+  QCOMPARE(test::contentOf(file), QByteArray("one"));
 }
 
 void AtomicFileTest::respectsAReadOnlyFolder() {
@@ -178,7 +174,7 @@ void AtomicFileTest::respectsAReadOnlyFolder() {
                                 QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
   QCOMPARE(existing, 70);
   QCOMPARE(fresh, 70);
-  QCOMPARE(content(file), QByteArray("one"));
+  QCOMPARE(test::contentOf(file), QByteArray("one"));
 }
 
 void AtomicFileTest::numbersErrors() {

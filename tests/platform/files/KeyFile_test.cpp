@@ -10,6 +10,8 @@
 #include "platform/values/RuntimeError.h"
 #include "tests/platform/files/NoMoreFiles.h"
 #include "tests/platform/files/OrdinaryUser.h"
+#include "tests/support/Errors.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -20,16 +22,6 @@ const QByteArray kMark = QByteArrayLiteral("\xEF\xBB\xBF");
 
 QString get(const QByteArray& bytes, const char* section, const char* key) {
   return KeyFile(bytes).value(QString::fromUtf8(section), QString::fromUtf8(key));
-}
-
-template <typename Action>
-int errorOf(const Action& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
 }
 
 }  // namespace
@@ -72,10 +64,6 @@ class KeyFileTest : public QObject {
     QFile file(path("test.ini"));
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
     return isWritten ? file.fileName() : QString();
-  }
-  static QByteArray content(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
   }
 
   std::unique_ptr<QTemporaryDir> folder_;
@@ -284,7 +272,7 @@ void KeyFileTest::refusesNamesThatNoFileCanHold() {
   QFETCH(QString, section);
   QFETCH(QString, key);
   KeyFile file("[s]\r\nk=1\r\n");
-  QCOMPARE(errorOf([&] { file.setValue(section, key, QStringLiteral("x")); }), 5);
+  QCOMPARE(test::errorOf([&] { file.setValue(section, key, QStringLiteral("x")); }), 5);
   QCOMPARE(file.bytes(), QByteArray("[s]\r\nk=1\r\n"));
   QCOMPARE(file.value(section, key), QString());
 }
@@ -320,25 +308,25 @@ void KeyFileTest::readsNothingWhereNoKeyFileIs() {
   QCOMPARE(readKey(path("none.ini"), section, key), QString());
   QCOMPARE(readKey(path("none/none.ini"), section, key), QString());
   QCOMPARE(readKey(QString(), section, key), QString());
-  QCOMPARE(errorOf([&] { readKey(file + QStringLiteral("/below.ini"), section, key); }), 76);
-  QCOMPARE(errorOf([&] { readKey(folder_->path(), section, key); }), 75);
+  QCOMPARE(test::errorOf([&] { readKey(file + QStringLiteral("/below.ini"), section, key); }), 76);
+  QCOMPARE(test::errorOf([&] { readKey(folder_->path(), section, key); }), 75);
 }
 
 // No more files can be opened; the file is there all the same.
 void KeyFileTest::tellsWhenNoFileCanBeOpened() {
   const QString s = QStringLiteral("s");
   const QString file = fileWith("[s]\nk=1\n");
-  const QByteArray before = content(file);
+  const QByteArray before = test::contentOf(file);
   int reading = 0;
   int writing = 0;
   {
     const test::NoMoreFiles none;
-    reading = errorOf([&] { readKey(file, s, s); });
-    writing = errorOf([&] { writeKey(file, s, s, s); });
+    reading = test::errorOf([&] { readKey(file, s, s); });
+    writing = test::errorOf([&] { writeKey(file, s, s, s); });
   }
   QCOMPARE(reading, 75);
   QCOMPARE(writing, 75);
-  QCOMPARE(content(file), before);
+  QCOMPARE(test::contentOf(file), before);
 }
 
 void KeyFileTest::setsSeveralKeysAtOnce() {
@@ -348,13 +336,13 @@ void KeyFileTest::setsSeveralKeysAtOnce() {
                    {s, QStringLiteral("number"), QStringLiteral("1")},
                    {QStringLiteral("Anterior"), QStringLiteral("ano"), QStringLiteral("2013")}});
   const QByteArray after("[Contador]\nano=2014\nnumber=1\n[Anterior]\nano=2013\n");
-  QCOMPARE(content(file), after);
-  QCOMPARE(errorOf([&] {
+  QCOMPARE(test::contentOf(file), after);
+  QCOMPARE(test::errorOf([&] {
              writeKeys(file, {{s, QStringLiteral("ano"), QStringLiteral("2015")},
                               {s, QString(), QString()}});
            }),
            5);
-  QCOMPARE(content(file), after);
+  QCOMPARE(test::contentOf(file), after);
 }
 
 void KeyFileTest::isForOwnerAndGroupAlone() {
@@ -377,23 +365,24 @@ void KeyFileTest::readsNoFileThatIsTooLarge() {
   QCOMPARE(readKey(fileWith(bytes), QStringLiteral("s"), QStringLiteral("k")), QStringLiteral("1"));
   bytes += '\n';
   const QString large = fileWith(bytes);
-  QCOMPARE(errorOf([&] { readKey(large, QStringLiteral("s"), QStringLiteral("k")); }), 75);
+  QCOMPARE(test::errorOf([&] { readKey(large, QStringLiteral("s"), QStringLiteral("k")); }), 75);
 }
 
 void KeyFileTest::waitsForNoPipe() {
   const QString pipe = path("pipe.ini");
   QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-  QCOMPARE(errorOf([&] { readKey(pipe, QStringLiteral("s"), QStringLiteral("k")); }), 75);
-  QCOMPARE(errorOf([&] { writeKey(pipe, QStringLiteral("s"), QStringLiteral("k"), QString()); }),
-           75);
+  QCOMPARE(test::errorOf([&] { readKey(pipe, QStringLiteral("s"), QStringLiteral("k")); }), 75);
+  QCOMPARE(
+      test::errorOf([&] { writeKey(pipe, QStringLiteral("s"), QStringLiteral("k"), QString()); }),
+      75);
 }
 
 void KeyFileTest::makesAFile() {
   const QString file = path("new.ini");
   writeKey(file, QStringLiteral("s"), QStringLiteral("k"), QStringLiteral("é"));
-  QCOMPARE(content(file), QByteArray("[s]\r\nk=é\r\n"));
+  QCOMPARE(test::contentOf(file), QByteArray("[s]\r\nk=é\r\n"));
   writeKey(file, QStringLiteral("S"), QStringLiteral("K2"), QStringLiteral("2"));
-  QCOMPARE(content(file), QByteArray("[s]\r\nk=é\r\nK2=2\r\n"));
+  QCOMPARE(test::contentOf(file), QByteArray("[s]\r\nk=é\r\nK2=2\r\n"));
 }
 
 void KeyFileTest::leavesWhatItCannotRead_data() {
@@ -411,10 +400,10 @@ void KeyFileTest::leavesWhatItCannotRead() {
   const QString file = fileWith(large);
   QVERIFY(QDir(folder_->path()).mkdir(QStringLiteral("folder")));
   const QString s = QStringLiteral("s");
-  QTEST(errorOf([&] { writeKey(folder_->filePath(name), s, s, s); }), "error");
-  QVERIFY(content(file) == large);
+  QTEST(test::errorOf([&] { writeKey(folder_->filePath(name), s, s, s); }), "error");
+  QVERIFY(test::contentOf(file) == large);
   QVERIFY(QFileInfo(path("folder")).isDir());
-  QCOMPARE(errorOf([&] { writeKey(QString(), s, s, s); }), 76);
+  QCOMPARE(test::errorOf([&] { writeKey(QString(), s, s, s); }), 76);
 }
 
 void KeyFileTest::leavesAFileThatItMayNotRead() {
@@ -425,10 +414,10 @@ void KeyFileTest::leavesAFileThatItMayNotRead() {
   const QString s = QStringLiteral("s");
   const QString file = fileWith("[s]\ns=1\n");
   QVERIFY(QFile::setPermissions(file, QFile::WriteOwner));
-  QCOMPARE(errorOf([&] { readKey(file, s, s); }), 70);
-  QCOMPARE(errorOf([&] { writeKey(file, s, s, QStringLiteral("2")); }), 70);
+  QCOMPARE(test::errorOf([&] { readKey(file, s, s); }), 70);
+  QCOMPARE(test::errorOf([&] { writeKey(file, s, s, QStringLiteral("2")); }), 70);
   QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
-  QCOMPARE(content(file), QByteArray("[s]\ns=1\n"));
+  QCOMPARE(test::contentOf(file), QByteArray("[s]\ns=1\n"));
 }
 
 void KeyFileTest::leavesAFileThatItMayNotWrite() {
@@ -439,18 +428,18 @@ void KeyFileTest::leavesAFileThatItMayNotWrite() {
   const QString s = QStringLiteral("s");
   const QString file = fileWith("[s]\ns=1\n");
   QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
-  QCOMPARE(errorOf([&] { writeKey(file, s, s, QStringLiteral("2")); }), 70);
-  QCOMPARE(content(file), QByteArray("[s]\ns=1\n"));
+  QCOMPARE(test::errorOf([&] { writeKey(file, s, s, QStringLiteral("2")); }), 70);
+  QCOMPARE(test::contentOf(file), QByteArray("[s]\ns=1\n"));
 }
 
 void KeyFileTest::leavesNothingBeside() {
   const QString s = QStringLiteral("s");
   const QString file = fileWith("[s]\ns=1\n");
   writeKey(file, s, s, QStringLiteral("2"));
-  QCOMPARE(errorOf([&] { writeKey(file, QString(), s, s); }), 5);
+  QCOMPARE(test::errorOf([&] { writeKey(file, QString(), s, s); }), 5);
   QCOMPARE(QDir(folder_->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
            QStringList{QStringLiteral("test.ini")});
-  QCOMPARE(content(file), QByteArray("[s]\ns=2\n"));
+  QCOMPARE(test::contentOf(file), QByteArray("[s]\ns=2\n"));
 }
 
 QUARTELA_TEST_MAIN(KeyFileTest)

@@ -7,16 +7,12 @@
 
 #include "platform/files/AtomicFile.h"
 #include "tests/platform/files/OrdinaryUser.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
 
 namespace {
-
-QByteArray content(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
 
 constexpr auto kReadOnlyFolder = QFile::ReadOwner | QFile::ExeOwner;
 constexpr auto kFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
@@ -137,9 +133,9 @@ void ProgramFolderTest::fillsTheUsersOwnFolder() {
   QVERIFY(QFile::setPermissions(executables(), kFolder));
 
   QCOMPARE(chosen, own());
-  QCOMPARE(content(own() + QStringLiteral("/Config.ini")), QByteArray("installed"));
-  QCOMPARE(content(own() + QStringLiteral("/Set.dat")), QByteArray("changed"));
-  QCOMPARE(content(own() + QStringLiteral("/Fotos/brasão.png")), QByteArray("picture"));
+  QCOMPARE(test::contentOf(own() + QStringLiteral("/Config.ini")), QByteArray("installed"));
+  QCOMPARE(test::contentOf(own() + QStringLiteral("/Set.dat")), QByteArray("changed"));
+  QCOMPARE(test::contentOf(own() + QStringLiteral("/Fotos/brasão.png")), QByteArray("picture"));
   // A copy can be written though what it was made from could not.
   replaceFile(own() + QStringLiteral("/Config.ini"), "set");
 }

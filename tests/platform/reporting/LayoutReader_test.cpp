@@ -255,18 +255,21 @@ void LayoutReaderTest::refuses_data() {
 void LayoutReaderTest::refuses() {
   QFETCH(QByteArray, json);
   QFETCH(QString, word);
-  QString description;
-  QCOMPARE(errorOf([&] { parseLayout(json, QStringLiteral("pasta/x.json")); }, &description), 5);
+  const auto error = test::raisedBy([&] { parseLayout(json, QStringLiteral("pasta/x.json")); });
+  QVERIFY(error);
+  QCOMPARE(error->number(), 5);
+  const QString& description = error->description();
   QVERIFY2(description.contains(QStringLiteral("x.json")), qPrintable(description));
   QVERIFY2(description.contains(word), qPrintable(description));
 }
 
 void LayoutReaderTest::tellsTheLineOfBrokenText() {
-  QString description;
-  QCOMPARE(errorOf([] { parseLayout("{\n\"name\": \"n\",\n ]\n}", QStringLiteral("x.json")); },
-                   &description),
-           5);
-  QVERIFY2(description.contains(QStringLiteral("linha 3")), qPrintable(description));
+  const auto error =
+      test::raisedBy([] { parseLayout("{\n\"name\": \"n\",\n ]\n}", QStringLiteral("x.json")); });
+  QVERIFY(error);
+  QCOMPARE(error->number(), 5);
+  QVERIFY2(error->description().contains(QStringLiteral("linha 3")),
+           qPrintable(error->description()));
 }
 
 void LayoutReaderTest::readsAFile() {

@@ -288,10 +288,10 @@ void OutputTest::unwritablePathsAreErrors() {
   if (number == 70 && probe.open(QIODevice::WriteOnly)) {
     QSKIP("this user may write everywhere");
   }
-  QString description;
-  QCOMPARE(errorOf([&] { exportPdf(built.document(), folder.filePath(path)); }, &description),
-           number);
-  QVERIFY2(description.contains(path), qPrintable(description));
+  const auto error = test::raisedBy([&] { exportPdf(built.document(), folder.filePath(path)); });
+  QVERIFY(error);
+  QCOMPARE(error->number(), number);
+  QVERIFY2(error->description().contains(path), qPrintable(error->description()));
   QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
@@ -356,9 +356,11 @@ void OutputTest::withoutAPrinterIs482() {
   QPrinter printer(QPrinter::HighResolution);
   QFETCH(QPrinter::OutputFormat, format);
   printer.setOutputFormat(format);
-  QString description;
-  QCOMPARE(errorOf([&] { printDocument(built.document(), printer); }, &description), 482);
-  QVERIFY2(description.contains(QStringLiteral("Nenhuma impressora")), qPrintable(description));
+  const auto error = test::raisedBy([&] { printDocument(built.document(), printer); });
+  QVERIFY(error);
+  QCOMPARE(error->number(), 482);
+  QVERIFY2(error->description().contains(QStringLiteral("Nenhuma impressora")),
+           qPrintable(error->description()));
 }
 
 void OutputTest::printsAllPages() {

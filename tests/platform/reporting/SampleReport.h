@@ -13,6 +13,7 @@
 #include "platform/reporting/LayoutReader.h"
 #include "platform/reporting/Report.h"
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Errors.h"
 
 namespace quartela::test {
 
@@ -66,20 +67,6 @@ inline QStringList textsOf(const reporting::Page& page, QStringView element) {
     texts << item.text;
   }
   return texts;
-}
-
-// The number of the error that the routine raises, 0 for none.
-template <typename Routine>
-int errorOf(const Routine& routine, QString* description = nullptr) {
-  try {
-    routine();
-  } catch (const RuntimeError& error) {
-    if (description != nullptr) {
-      *description = error.description();
-    }
-    return error.number();
-  }
-  return 0;
 }
 
 }  // namespace quartela::test

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Errors.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -10,16 +11,6 @@ using namespace quartela;
 Q_DECLARE_METATYPE(quartela::Value)
 
 namespace {
-
-template <typename Action>
-int errorOf(const Action& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 constexpr double kInfinite = std::numeric_limits<double>::infinity();
 constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
@@ -159,10 +150,10 @@ void ConvertTest::refusesTextsThatAreNoNumber_data() {
 void ConvertTest::refusesTextsThatAreNoNumber() {
   QFETCH(QString, text);
   QVERIFY(!Convert::isNumeric(text));
-  QCOMPARE(errorOf([&] { Convert::toNumber(text); }), 13);
-  QCOMPARE(errorOf([&] { Convert::toMoney(text); }), 13);
-  QCOMPARE(errorOf([&] { Convert::toI16(text); }), 13);
-  QCOMPARE(errorOf([&] { Convert::toI32(text); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toNumber(text); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toMoney(text); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toI16(text); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toI32(text); }), 13);
 }
 
 void ConvertTest::roundsIntegersHalfToEven_data() {
@@ -229,8 +220,8 @@ void ConvertTest::refusesIntegersOutOfRange_data() {
 
 void ConvertTest::refusesIntegersOutOfRange() {
   QFETCH(Value, value);
-  QTEST(errorOf([&] { Convert::toI16(value); }), "i16");
-  QTEST(errorOf([&] { Convert::toI32(value); }), "i32");
+  QTEST(test::errorOf([&] { Convert::toI16(value); }), "i16");
+  QTEST(test::errorOf([&] { Convert::toI32(value); }), "i32");
 }
 
 void ConvertTest::readsMoneyExactly_data() {
@@ -285,7 +276,7 @@ void ConvertTest::refusesMoneyOutOfRange_data() {
 
 void ConvertTest::refusesMoneyOutOfRange() {
   QFETCH(Value, value);
-  QCOMPARE(errorOf([&] { Convert::toMoney(value); }), 6);
+  QCOMPARE(test::errorOf([&] { Convert::toMoney(value); }), 6);
 }
 
 void ConvertTest::readsDates_data() {
@@ -349,7 +340,7 @@ void ConvertTest::refusesTextsThatAreNoDate_data() {
 void ConvertTest::refusesTextsThatAreNoDate() {
   QFETCH(QString, text);
   QVERIFY(!Convert::isDate(text));
-  QCOMPARE(errorOf([&] { Convert::toDateTime(text); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toDateTime(text); }), 13);
 }
 
 void ConvertTest::countsDatesAsSerials() {
@@ -378,7 +369,7 @@ void ConvertTest::refusesSerialsOutsideOfTheCalendar_data() {
 
 void ConvertTest::refusesSerialsOutsideOfTheCalendar() {
   QFETCH(double, serial);
-  QCOMPARE(errorOf([&] { Convert::toDateTime(serial); }), 6);
+  QCOMPARE(test::errorOf([&] { Convert::toDateTime(serial); }), 6);
 }
 
 void ConvertTest::readsBools_data() {
@@ -406,19 +397,19 @@ void ConvertTest::readsBools() {
   QFETCH(Value, value);
   QFETCH(int, expected);
   bool result = false;
-  const int error = errorOf([&] { result = Convert::toBool(value); });
+  const int error = test::errorOf([&] { result = Convert::toBool(value); });
   QCOMPARE(error, expected == 13 ? 13 : 0);
   QCOMPARE(result, expected == 1);
 }
 
 void ConvertTest::refusesNullEverywhere() {
   const Value null;
-  QCOMPARE(errorOf([&] { Convert::toI16(null); }), 13);
-  QCOMPARE(errorOf([&] { Convert::toI32(null); }), 13);
-  QCOMPARE(errorOf([&] { Convert::toMoney(null); }), 13);
-  QCOMPARE(errorOf([&] { Convert::toNumber(null); }), 13);
-  QCOMPARE(errorOf([&] { Convert::toDateTime(null); }), 13);
-  QCOMPARE(errorOf([&] { Convert::toBool(null); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toI16(null); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toI32(null); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toMoney(null); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toNumber(null); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toDateTime(null); }), 13);
+  QCOMPARE(test::errorOf([&] { Convert::toBool(null); }), 13);
 }
 
 void ConvertTest::writesTexts_data() {
@@ -492,9 +483,9 @@ void ConvertTest::keepsNullInEveryColumn() {
     QVERIFY(Convert::toType(Value(), static_cast<ValueType>(type)).isNull());
   }
   QVERIFY(Convert::toType(5, ValueType::Null) == Value(5));
-  QCOMPARE(errorOf([] { Convert::toType("", ValueType::DateTime); }), 13);
-  QCOMPARE(errorOf([] { Convert::toType("", ValueType::Money); }), 13);
-  QCOMPARE(errorOf([] { Convert::toType("99999", ValueType::I16); }), 6);
+  QCOMPARE(test::errorOf([] { Convert::toType("", ValueType::DateTime); }), 13);
+  QCOMPARE(test::errorOf([] { Convert::toType("", ValueType::Money); }), 13);
+  QCOMPARE(test::errorOf([] { Convert::toType("99999", ValueType::I16); }), 6);
 }
 
 void ConvertTest::readsBackWhatItWrites_data() {
@@ -516,7 +507,7 @@ void ConvertTest::readsBackWhatItWrites() {
 }
 
 void ConvertTest::readsLongNumbers() {
-  QCOMPARE(errorOf([] { Convert::toNumber(QString(400, u'9')); }), 6);
+  QCOMPARE(test::errorOf([] { Convert::toNumber(QString(400, u'9')); }), 6);
   QCOMPARE(Convert::toNumber(QString("0," + QString(400, u'0') + "1")), 0.0);
   QCOMPARE(Convert::toNumber(QString(QString(400, u'0') + "7")), 7.0);
 }

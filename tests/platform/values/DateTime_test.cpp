@@ -1,23 +1,10 @@
 #include "platform/values/DateTime.h"
 
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Errors.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
-
-namespace {
-
-template <typename Action>
-int errorOf(const Action& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
-
-}  // namespace
 
 class DateTimeTest : public QObject {
   Q_OBJECT
@@ -73,7 +60,7 @@ void DateTimeTest::knowsTheCalendar() {
   QFETCH(int, day);
   QFETCH(bool, exists);
   QCOMPARE(DateTime::fromParts(year, month, day).has_value(), exists);
-  QCOMPARE(errorOf([=] { return DateTime::of(year, month, day); }), exists ? 0 : 13);
+  QCOMPARE(test::errorOf([=] { return DateTime::of(year, month, day); }), exists ? 0 : 13);
 }
 
 void DateTimeTest::refusesTimesThatDoNotExist_data() {
@@ -152,13 +139,16 @@ void DateTimeTest::addsDays() {
 
 void DateTimeTest::staysInsideTheCalendar() {
   const DateTime last = DateTime::of(9999, 12, 31);
-  QCOMPARE(errorOf([&] { return last.addDays(1); }), 6);
-  QCOMPARE(errorOf([&] { return last.addDays(std::numeric_limits<std::int64_t>::max()); }), 6);
-  QCOMPARE(errorOf([] { return DateTime::of(100, 1, 1).addDays(-1); }), 6);
-  QCOMPARE(errorOf([] { return DateTime().addDays(std::numeric_limits<std::int64_t>::min()); }), 6);
-  QCOMPARE(errorOf([] { return DateTime::fromSerial(2'958'466); }), 6);
-  QCOMPARE(errorOf([] { return DateTime::fromSerial(0, 86'400); }), 6);
-  QCOMPARE(errorOf([] { return DateTime::fromSerial(0, -1); }), 6);
+  QCOMPARE(test::errorOf([&] { return last.addDays(1); }), 6);
+  QCOMPARE(test::errorOf([&] { return last.addDays(std::numeric_limits<std::int64_t>::max()); }),
+           6);
+  QCOMPARE(test::errorOf([] { return DateTime::of(100, 1, 1).addDays(-1); }), 6);
+  QCOMPARE(
+      test::errorOf([] { return DateTime().addDays(std::numeric_limits<std::int64_t>::min()); }),
+      6);
+  QCOMPARE(test::errorOf([] { return DateTime::fromSerial(2'958'466); }), 6);
+  QCOMPARE(test::errorOf([] { return DateTime::fromSerial(0, 86'400); }), 6);
+  QCOMPARE(test::errorOf([] { return DateTime::fromSerial(0, -1); }), 6);
 }
 
 void DateTimeTest::readsAndWritesTheFileForm() {

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "platform/values/RuntimeError.h"
+#include "tests/support/Errors.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -11,17 +12,6 @@ namespace {
 
 constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
-
-// The number of the error that `action` raises, 0 when it raises none.
-template <typename Action>
-int errorOf(const Action& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 }  // namespace
 
@@ -105,15 +95,15 @@ void MoneyTest::neverLeavesItsRangeUnseen() {
   const Money most = Money::fromUnits(kMost);
   const Money least = Money::fromUnits(kLeast);
   const Money one = Money::fromUnits(1);
-  QCOMPARE(errorOf([&] { return most + one; }), 6);
-  QCOMPARE(errorOf([&] { return least - one; }), 6);
-  QCOMPARE(errorOf([&] { return -least; }), 6);
-  QCOMPARE(errorOf([&] { return most * 2; }), 6);
-  QCOMPARE(errorOf([] { return Money::fromReais(kMost / 10'000 + 1); }), 6);
-  QCOMPARE(errorOf([] { return Money::fromCents(kLeast / 100 - 1); }), 6);
-  QCOMPARE(errorOf([&] { return most - one; }), 0);
-  QCOMPARE(errorOf([&] { return -most; }), 0);
-  QCOMPARE(errorOf([] { return Money::fromReais(kMost / 10'000); }), 0);
+  QCOMPARE(test::errorOf([&] { return most + one; }), 6);
+  QCOMPARE(test::errorOf([&] { return least - one; }), 6);
+  QCOMPARE(test::errorOf([&] { return -least; }), 6);
+  QCOMPARE(test::errorOf([&] { return most * 2; }), 6);
+  QCOMPARE(test::errorOf([] { return Money::fromReais(kMost / 10'000 + 1); }), 6);
+  QCOMPARE(test::errorOf([] { return Money::fromCents(kLeast / 100 - 1); }), 6);
+  QCOMPARE(test::errorOf([&] { return most - one; }), 0);
+  QCOMPARE(test::errorOf([&] { return -most; }), 0);
+  QCOMPARE(test::errorOf([] { return Money::fromReais(kMost / 10'000); }), 0);
 }
 
 QUARTELA_TEST_MAIN(MoneyTest)

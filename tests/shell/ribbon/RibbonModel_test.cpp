@@ -5,6 +5,7 @@
 
 #include "platform/values/RuntimeError.h"
 #include "tests/shell/ribbon/SampleRibbon.h"
+#include "tests/support/Errors.h"
 #include "tests/support/TestMain.h"
 
 using namespace quartela;
@@ -30,20 +31,10 @@ class RibbonModelTest : public QObject {
   void imageListNumbersFromOne();
 
  private:
-  static int errorOf(const std::function<void()>& action);
   static void addTab(RibbonModel& model, const QString& key, QString caption = "t") {
     model.addTab(key, caption);
   }
 };
-
-int RibbonModelTest::errorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 void RibbonModelTest::lineBreaksBecomeBlanks_data() {
   QTest::addColumn<QString>("text");
@@ -150,12 +141,12 @@ void RibbonModelTest::tooManyTabs() {
   for (int n = 1; n <= 31; ++n) {
     addTab(model, QString::number(n));
   }
-  QCOMPARE(errorOf([&] { addTab(model, "32"); }), 9);
+  QCOMPARE(test::errorOf([&] { addTab(model, "32"); }), 9);
   QCOMPARE(model.tabCount(), 32);
-  QCOMPARE(errorOf([&] { addTab(model, "33"); }), 9);
+  QCOMPARE(test::errorOf([&] { addTab(model, "33"); }), 9);
   QCOMPARE(model.tabCount(), 33);
   QCOMPARE(model.tab(30).key, QString("31"));
-  QCOMPARE(errorOf([&] { model.tab(31); }), 9);
+  QCOMPARE(test::errorOf([&] { model.tab(31); }), 9);
 }
 
 void RibbonModelTest::tooManyCategories() {
@@ -167,7 +158,7 @@ void RibbonModelTest::tooManyCategories() {
   for (int n = 1; n <= 31; ++n) {
     add(n);
   }
-  QCOMPARE(errorOf([&] { add(32); }), 9);
+  QCOMPARE(test::errorOf([&] { add(32); }), 9);
   QCOMPARE(model.categoryCount(), 32);
   QCOMPARE(model.category(30).key, QString("31"));
 }
@@ -179,7 +170,7 @@ void RibbonModelTest::tooManyButtons() {
   for (int n = 1; n <= 91; ++n) {
     model.addButton(QString::number(n), "1A", caption, 1, false, {}, &images);
   }
-  QCOMPARE(errorOf([&] { model.addButton("92", "1A", caption, 1, false, {}, &images); }), 9);
+  QCOMPARE(test::errorOf([&] { model.addButton("92", "1A", caption, 1, false, {}, &images); }), 9);
   QCOMPARE(model.buttonCount(), 92);
   QCOMPARE(model.button(90).key, QString("91"));
 }
@@ -203,7 +194,7 @@ void RibbonModelTest::buttonWithoutPictureIsStoredAlready() {
     model.addButton("0", "1A", caption, static_cast<std::int16_t>(image), true, {},
                     withList ? &images : nullptr);
   };
-  QCOMPARE(errorOf(add), 9);
+  QCOMPARE(test::errorOf(add), 9);
   QCOMPARE(model.buttonCount(), 1);
   QCOMPARE(model.button(0).key, QString("0"));
   QCOMPARE(model.button(0).category, QString("1A"));
@@ -219,8 +210,8 @@ void RibbonModelTest::imageListNumbersFromOne() {
   QCOMPARE(images.imageSize(), QSize(24, 24));
   const QImage first = images.picture(1).icon.pixmap(QSize(24, 24), 1).toImage();
   QCOMPARE(first.pixel(0, 0), QColor::fromHsv(0, 200, 200).rgb());
-  QCOMPARE(errorOf([&] { images.picture(0); }), 9);
-  QCOMPARE(errorOf([&] { images.picture(3); }), 9);
+  QCOMPARE(test::errorOf([&] { images.picture(0); }), 9);
+  QCOMPARE(test::errorOf([&] { images.picture(3); }), 9);
 }
 
 QUARTELA_TEST_MAIN(RibbonModelTest)
