@@ -373,10 +373,9 @@ void FaultsTest::twoInOneDay() {
                               Fault::KilledAfter};
     const auto call = static_cast<Call>(random.bounded(kCalls));
     const int made = all_[static_cast<std::size_t>(call)];
-    // A lock that is never given up keeps others out by itself.
-    const bool unlocks = call == Call::Unlock;
-    return Plan{unlocks ? Fault::Fails : kFaults[random.bounded(4)], call,
-                1 + random.bounded(made)};
+    // With locks that fail for good a lock that was left cannot be given up by anybody.
+    const bool locks = call == Call::Lock || call == Call::Unlock;
+    return Plan{locks ? Fault::Fails : kFaults[random.bounded(4)], call, 1 + random.bounded(made)};
   };
   while (runs_ < kLongRuns && !QTest::currentTestFailed()) {
     carryOut({any(), any()});

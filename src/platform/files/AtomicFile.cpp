@@ -189,14 +189,15 @@ void AtomicFile::write(const QByteArray& bytes) {
 }
 
 void AtomicFile::commit() {
-  if (::fsync(place_->file) != 0 ||
+  const FolderToSync folder(place_->folder);
+  if (!folder.isReady() || ::fsync(place_->file) != 0 ||
       std::rename(place_->temporary.constData(), place_->target.constData()) != 0) {
     failAs(errno, place_->path);
   }
   // Everything is on the disk: closing can lose nothing any more.
   ::close(place_->file);
   place_->file = -1;
-  if (!syncFolder(place_->folder)) {
+  if (!folder.sync()) {
     fail(ErrorNumber::PathFileAccess, place_->path);
   }
 }
@@ -247,14 +248,13 @@ void clearLeftovers(const QString& folder) {
   }
 }
 
-bool syncFolder(const QString& folder) {
-  const OpenFile open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
-  if (!open.isOpen()) {
-    // A folder that may be written but not read cannot be synchronised by anybody.
-    return errno == EACCES;
-  }
+FolderToSync::FolderToSync(const QString& folder)
+    : open_(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY),
+      ready_(open_.isOpen() || errno == EACCES) {}
+
+bool FolderToSync::sync() const {
   // Some network systems know no such thing.
-  return ::fsync(open.descriptor()) == 0 || errno == EINVAL || errno == ENOTSUP;
+  return !open_.isOpen() || ::fsync(open_.descriptor()) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
 ErrorNumber writeErrorNumber(QFileDevice::FileError error) {

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+#include "platform/files/OpenFile.h"
 #include "platform/values/RuntimeError.h"
 
 namespace quartela {
@@ -53,8 +54,21 @@ std::optional<QByteArray> readWhole(const QString& path, qint64 most);
 // being written at the moment stay.
 void clearLeftovers(const QString& folder);
 
-// Names that files in the folder have gained or lost are on the disk. False when that failed.
-bool syncFolder(const QString& folder);
+// The folder whose files gain or lose names: opened before they do, so that there is nothing left
+// to fail but the synchronising itself.
+class FolderToSync {
+ public:
+  explicit FolderToSync(const QString& folder);
+  // False when the folder cannot be opened. One that may be written but not read can be
+  // synchronised by nobody, and need not.
+  bool isReady() const { return ready_; }
+  // The names are on the disk. False when that failed.
+  bool sync() const;
+
+ private:
+  OpenFile open_;
+  bool ready_;
+};
 
 // The number for what went wrong with a file that was being written.
 ErrorNumber writeErrorNumber(QFileDevice::FileError error);

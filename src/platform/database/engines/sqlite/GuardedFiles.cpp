@@ -116,6 +116,9 @@ int seeJournal(sqlite3_file* database, const char* journal, int* exists) {
   }
   const JournalKind kind = judgeJournal(journal, qFromBigEndian<quint32>(counter.data()));
   *exists = kind == JournalKind::Belongs ? 1 : 0;
+  if (kind == JournalKind::Unreadable) {
+    return SQLITE_IOERR_READ;
+  }
   return kind == JournalKind::Unknown ? kUnknownJournal : SQLITE_OK;
 }
 
@@ -143,14 +146,29 @@ int accessFile(sqlite3_vfs*, const char* name, int flags, int* result) {
   return SQLITE_OK;
 }
 
+// Without its name a journal undoes nothing: the save would come to be seen although its failure is
+// told.
+void giveNameBack(const char* ended, const char* journal) {
+  int back = std::rename(ended, journal);
+  for (int i = 0; i < kTries && back != 0; ++i) {
+    back = std::rename(ended, journal);
+  }
+  if (back != 0) {
+    static_cast<void>(!::link(ended, journal));
+  }
+}
+
 int endSave(const char* journal) {
+  const FolderToSync folder(QFileInfo(QFile::decodeName(journal)).path());
   const std::string ended = std::string(journal) + kEndedSuffix;
+  if (!folder.isReady()) {
+    return SQLITE_IOERR_DIR_FSYNC;
+  }
   if (std::rename(journal, ended.c_str()) != 0) {
     return errno == ENOENT ? SQLITE_IOERR_DELETE_NOENT : SQLITE_IOERR_DELETE;
   }
-  if (!syncFolder(QFileInfo(QFile::decodeName(journal)).path())) {
-    // Whether or not the name comes back, the caller is told that the save has failed.
-    static_cast<void>(std::rename(ended.c_str(), journal));
+  if (!folder.sync()) {
+    giveNameBack(ended.c_str(), journal);
     return SQLITE_IOERR_DIR_FSYNC;
   }
   // What is left of it has no effect and is cleared at the next opening.

@@ -36,11 +36,11 @@ bool isSize(std::uint32_t size, std::uint32_t least) {
   return size >= least && size <= 65536 && std::has_single_bit(size);
 }
 
+using HeadBytes = std::array<unsigned char, kJournalHead>;
+
 // Nothing where the engine would not see the head of a journal either.
-std::optional<JournalHead> readJournalHead(int file) {
-  std::array<unsigned char, kJournalHead> bytes{};
-  if (::pread(file, bytes.data(), bytes.size(), 0) != kJournalHead ||
-      !std::equal(kMagic.begin(), kMagic.end(), bytes.begin())) {
+std::optional<JournalHead> headIn(const HeadBytes& bytes, ssize_t count) {
+  if (count != kJournalHead || !std::equal(kMagic.begin(), kMagic.end(), bytes.begin())) {
     return std::nullopt;
   }
   const JournalHead head{qFromBigEndian<quint32>(bytes.data() + kRecordsOffset),
@@ -78,9 +78,14 @@ std::optional<std::uint32_t> counterBefore(int file, const JournalHead& head) {
 JournalKind judgeJournal(const char* path, std::uint32_t changeCounter) {
   const OpenFile file(path, O_RDONLY);
   if (!file.isOpen()) {
-    return errno == ENOENT ? JournalKind::Absent : JournalKind::Unknown;
+    return errno == ENOENT ? JournalKind::Absent : JournalKind::Unreadable;
   }
-  const auto head = readJournalHead(file.descriptor());
+  HeadBytes bytes{};
+  const ssize_t count = ::pread(file.descriptor(), bytes.data(), bytes.size(), 0);
+  if (count < 0) {
+    return JournalKind::Unreadable;
+  }
+  const auto head = headIn(bytes, count);
   if (!head || head->records == 0) {
     return JournalKind::Idle;
   }

@@ -14,6 +14,8 @@ enum class JournalKind : std::uint8_t {
   Belongs,
   // It was written for another state of the file, such as the one that a backup has replaced since.
   Foreign,
+  // It is there, and cannot be read at the moment.
+  Unreadable,
   // It does not hold the first page, which this program's saves write before any other.
   Unknown,
 };

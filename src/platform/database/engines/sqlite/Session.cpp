@@ -44,9 +44,9 @@ bool hasLog(sqlite3* db) {
   return readHead(db).mid(kModeOffset, 1) == QByteArray(1, kLogMode);
 }
 
-bool isForeignJournal(sqlite3* db, const QString& journal) {
+JournalKind kindOfJournal(sqlite3* db, const QString& journal) {
   const auto counter = qFromBigEndian<quint32>(readHead(db).constData() + kCounterOffset);
-  return judgeJournal(QFile::encodeName(journal).constData(), counter) == JournalKind::Foreign;
+  return judgeJournal(QFile::encodeName(journal).constData(), counter);
 }
 
 // What was reported as saved survives a power cut: the journal's removal is on the disk too. Pages
@@ -215,10 +215,12 @@ void SqliteSession::clearBeside() {
   }
   sqlite3_busy_timeout(handle(), 0);
   if (sqlite3_exec(handle(), "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_OK) {
-    if (sqlite::isForeignJournal(handle(), journal)) {
+    const sqlite::JournalKind kind = sqlite::kindOfJournal(handle(), journal);
+    if (kind == sqlite::JournalKind::Foreign) {
       keepAside(journal);
+    } else if (kind == sqlite::JournalKind::Idle) {
+      QFile::remove(journal);
     }
-    QFile::remove(journal);
     if (QFileInfo(log).size() > 0) {
       keepAside(log);
     }
