@@ -8,6 +8,7 @@
 #include "platform/values/RuntimeError.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/office/KnownStatements.h"
 #include "tests/support/office/Office.h"
 
 using namespace quartela;
@@ -69,6 +70,17 @@ class RotinasConsultaTest : public QObject {
   void nextSheet();
 
  private:
+  // The loaders and look-ups take any table: these are the test's own.
+  OwnStatements own_{{
+      QStringLiteral("SELECT IDORGAO FROM Orgao WHERE IDORGAO = 99;"),
+      QStringLiteral("SELECT IDORGAO, ORGAO FROM Orgao ORDER BY IDORGAO"),
+      QStringLiteral("SELECT IDORGAO, ORGAO FROM Orgao ORDER BY IDORGAO DESC;"),
+      QStringLiteral("SELECT Max(ID) AS Id FROM Tomador;"),
+      QStringLiteral("SELECT Max(IDORGAO) AS Id FROM Orgao WHERE IDORGAO = 99;"),
+      QStringLiteral("SELECT ORGAO FROM Orgao WHERE IDORGAO = 1"),
+      QStringLiteral("SELECT TOP 1 ORGAO FROM Orgao WHERE ORGAO Like 'O%' ORDER BY ORGAO Asc;"),
+      QStringLiteral("Select IDORGAO, ORGAO From Orgao Where IDORGAO > 1 Order By IDORGAO"),
+  }};
   std::optional<Office> office_;
 };
 

@@ -44,6 +44,11 @@ QSet<QString> knownShapes() {
   return shapes;
 }
 
+QSet<QString>& ownShapes() {
+  static QSet<QString> shapes;
+  return shapes;
+}
+
 }  // namespace
 
 QString shapeOf(const QString& statement) {
@@ -64,7 +69,18 @@ QString shapeOf(const QString& statement) {
 
 bool isKnownStatement(const QString& statement) {
   static const QSet<QString> kShapes = knownShapes();
-  return kShapes.contains(shapeOf(statement));
+  const QString shape = shapeOf(statement);
+  return kShapes.contains(shape) || ownShapes().contains(shape);
+}
+
+OwnStatements::OwnStatements(const QStringList& statements) {
+  for (const QString& statement : statements) {
+    ownShapes().insert(shapeOf(statement));
+  }
+}
+
+OwnStatements::~OwnStatements() {
+  ownShapes().clear();
 }
 
 void requireKnown(const QString& statement) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace quartela::test {
 
@@ -12,6 +13,15 @@ QString shapeOf(const QString& statement);
 
 // Whether the tables of statements have one of that shape.
 bool isKnownStatement(const QString& statement);
+
+// Statements that a test of a common routine hands over itself: known as long as the object lives.
+class OwnStatements {
+ public:
+  explicit OwnStatements(const QStringList& statements);
+  ~OwnStatements();
+  OwnStatements(const OwnStatements&) = delete;
+  OwnStatements& operator=(const OwnStatements&) = delete;
+};
 
 // Fails the running test when the statement is in no table.
 void requireKnown(const QString& statement);
