@@ -31,7 +31,9 @@ add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_
 
 # GCC 12 sees overlaps and overflows in std::string's own operator+ that are not there, once it
 # optimises (GCC bug 105651).
-add_compile_options($<$<CONFIG:Release>:-Wno-restrict> $<$<CONFIG:Release>:-Wno-stringop-overflow>)
+foreach(false_alarm restrict stringop-overflow array-bounds)
+  add_compile_options($<$<CONFIG:Release>:-Wno-${false_alarm}>)
+endforeach()
 
 # What keeps a slip from becoming a hole in what offices run; packaging/hardening.py reads it off the
 # program.
