@@ -71,7 +71,7 @@ class RotinasConsultaTest : public QObject {
 
  private:
   // The loaders and look-ups take any table: these are the test's own.
-  OwnStatements own_{{
+  test::OwnStatements own_{{
       QStringLiteral("SELECT IDORGAO FROM Orgao WHERE IDORGAO = 99;"),
       QStringLiteral("SELECT IDORGAO, ORGAO FROM Orgao ORDER BY IDORGAO"),
       QStringLiteral("SELECT IDORGAO, ORGAO FROM Orgao ORDER BY IDORGAO DESC;"),
