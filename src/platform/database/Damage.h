@@ -16,9 +16,9 @@ enum class CheckDepth : std::uint8_t {
 };
 
 // What is damaged, in words for an operator, each line naming the table, and the key where it is
-// known; empty when nothing is. Nobody's save waits for it, and nothing is written. Also safe from a
-// thread of its own. Given up, with nothing found, as soon as `cancelled` is set. Raises what stops
-// the looking, such as 61 or 75.
+// known; empty when nothing is. Nobody's save waits for it, and nothing is written. Also safe from
+// a thread of its own. Given up, with nothing found, as soon as `cancelled` is set. Raises what
+// stops the looking, such as 61 or 75.
 QStringList findDamage(const QString& path, CheckDepth depth, const std::atomic_bool& cancelled);
 
 }  // namespace quartela
